@@ -1,0 +1,61 @@
+#include "CommandLine.h"
+
+#include <cstdio>
+#include <exception>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Every word of the command line, one row each.
+constexpr Command commands[] = {
+    {u"sorgu", u"kuyum sorgu VERITABANI \"SELECT ...\"", sorguCommand},
+};
+
+void printTo(FILE *stream, const QString &line)
+{
+    const QByteArray bytes = line.toUtf8() + '\n';
+    std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stream);
+}
+
+} // namespace
+
+const Command *findCommand(const QString &word)
+{
+    for (const Command &command : commands) {
+        if (word == QStringView(command.word))
+            return &command;
+    }
+    return nullptr;
+}
+
+QString usageText()
+{
+    QString text = u"Kullanım:\n  kuyum [--sirket DOSYA]"_s;
+    for (const Command &command : commands)
+        text += u"\n  "_s + QString::fromUtf16(command.usage);
+    return text;
+}
+
+int runCommand(const Command &command, const QStringList &arguments)
+{
+    try {
+        return command.run(arguments);
+    } catch (const WrongUsage &) {
+        printError(u"Kullanım: "_s + QString::fromUtf16(command.usage));
+        return exitWrongUsage;
+    } catch (const std::exception &error) {
+        printError(QString::fromUtf8(error.what()));
+        return exitRefused;
+    }
+}
+
+void printLine(const QString &line)
+{
+    printTo(stdout, line);
+}
+
+void printError(const QString &line)
+{
+    printTo(stderr, line);
+}

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QStringList>
+
+/// The words by which the program works without a window.
+
+constexpr int exitRefused = 1;    ///< the reason is on standard error, in Turkish
+constexpr int exitWrongUsage = 2; ///< the usage is on standard error
+
+struct Command
+{
+    const char16_t *word;
+    const char16_t *usage;
+    /// Gets what follows the word; returns the exit code. May throw
+    /// std::exception to refuse and WrongUsage for words it does not take.
+    int (*run)(const QStringList &arguments);
+};
+
+/// Thrown by a command whose words are off; main() shows the usage.
+struct WrongUsage
+{
+};
+
+/// The command of that word; null when there is none.
+const Command *findCommand(const QString &word);
+QString usageText();
+
+/// Runs a command and turns what it throws into messages and exit codes.
+int runCommand(const Command &command, const QStringList &arguments);
+
+/// A line on standard output or standard error, as UTF-8.
+void printLine(const QString &line);
+void printError(const QString &line);
+
+int sorguCommand(const QStringList &arguments);

@@ -1,0 +1,20 @@
+#include "CommandLine.h"
+
+#include <QCoreApplication>
+
+using namespace Qt::StringLiterals;
+
+int main(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+
+    const Command *command = arguments.isEmpty() ? nullptr : findCommand(arguments.first());
+    if (command != nullptr) {
+        const QCoreApplication application(argc, argv);
+        return runCommand(*command, arguments.mid(1));
+    }
+    printError(usageText());
+    return exitWrongUsage;
+}

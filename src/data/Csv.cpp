@@ -1,0 +1,64 @@
+#include "Csv.h"
+
+#include "Dates.h"
+#include "Numbers.h"
+#include "Recordset.h"
+
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString quoted(QString text)
+{
+    return u'"' + text.replace(u'"', u"\"\""_s) + u'"';
+}
+
+/// A date that was computed (the latest of a group, say) comes without the
+/// field's type; its stored form tells.
+bool isStoredDate(const QString &text)
+{
+    static const QRegularExpression form(uR"(^\d{4}-\d{2}-\d{2}(T\d{2}:\d{2}:\d{2})?$)"_s);
+    return form.match(text).hasMatch() && parseIso(text).isValid();
+}
+
+QString csvValue(const QVariant &value, bool computed)
+{
+    switch (value.typeId()) {
+    case QMetaType::UnknownType:
+        return {};
+    case QMetaType::QDateTime:
+        return formatDateTime(value.toDateTime());
+    case QMetaType::Double:
+        return plainNumber(value.toDouble());
+    case QMetaType::Bool:
+        return value.toBool() ? u"1"_s : u"0"_s;
+    case QMetaType::QByteArray:
+        return QString::fromLatin1(value.toByteArray().toHex());
+    case QMetaType::QString:
+        break;
+    default:
+        return value.toString();
+    }
+    const QString text = value.toString();
+    return computed && isStoredDate(text) ? formatDateTime(parseIso(text)) : quoted(text);
+}
+
+} // namespace
+
+QString csvHeader(const Recordset &rows)
+{
+    QStringList names;
+    for (int i = 0; i < rows.fieldCount(); ++i)
+        names.append(quoted(rows.fieldName(i)));
+    return names.join(u',');
+}
+
+QString csvRow(const Recordset &rows)
+{
+    QStringList values;
+    for (int i = 0; i < rows.fieldCount(); ++i)
+        values.append(csvValue(rows.value(i), !rows.isTableField(i)));
+    return values.join(u',');
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "TableDef.h"
+
+#include <memory>
+#include <QString>
+
+class Database;
+
+/// The one description of all tables: it makes a new company or registry,
+/// completes one that was taken over or written by an older program, and tells
+/// which fields hold what.
+const QList<TableDef> &companyTables();
+const QList<TableDef> &registryTables();
+
+/// The layout version this program writes.
+constexpr int currentSchemaVersion = 1;
+
+/// Adds the tables, fields and indexes of the description that the file lacks.
+/// What is there stays as it is. An index that the rows forbid to be unique is
+/// made without that.
+void completeTables(Database &db, const QList<TableDef> &tables);
+
+/// Opens a company for work: steps an older file up to the current layout,
+/// refuses a newer one with a DatabaseError that says so.
+std::unique_ptr<Database> openCompany(const QString &path);
+std::unique_ptr<Database> openRegistry(const QString &path);
+
+/// Makes an empty company or registry file.
+std::unique_ptr<Database> createCompany(const QString &path);
+std::unique_ptr<Database> createRegistry(const QString &path);

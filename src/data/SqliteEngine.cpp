@@ -1,0 +1,142 @@
+#include "SqliteEngine.h"
+
+#include "SqliteFunctions.h"
+
+#include <QAtomicInt>
+#include <QFileInfo>
+#include <QSqlDriver>
+#include <QSqlError>
+#include <QSqlResult>
+#include <QVariant>
+#include <sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+sqlite3 *handleOf(const QSqlDatabase &database)
+{
+    return *static_cast<sqlite3 *const *>(database.driver()->handle().constData());
+}
+
+/// What a user can do about it, for the failures he can mend.
+QString turkishReason(int code)
+{
+    switch (code & 0xff) {
+    case SQLITE_FULL:
+        return u"Diskte yer kalmadı."_s;
+    case SQLITE_CORRUPT:
+    case SQLITE_NOTADB:
+        return u"Veri tabanı dosyası bozuk."_s;
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return u"Veri tabanı başka bir program tarafından kullanılıyor."_s;
+    case SQLITE_READONLY:
+        return u"Veri tabanına yazılamıyor."_s;
+    case SQLITE_IOERR:
+        return u"Diske erişilemiyor."_s;
+    case SQLITE_CANTOPEN:
+        return u"Dosya açılamıyor."_s;
+    default:
+        return {};
+    }
+}
+
+QString uniqueConnectionName()
+{
+    static QAtomicInt count;
+    return u"kuyum-%1"_s.arg(count.fetchAndAddRelaxed(1));
+}
+
+} // namespace
+
+SqliteEngine::SqliteEngine(const QString &path, Mode mode)
+    : m_connection(uniqueConnectionName()),
+      m_database(QSqlDatabase::addDatabase(u"QSQLITE"_s, m_connection))
+{
+    m_database.setDatabaseName(path);
+    if (mode == Mode::ReadOnly)
+        m_database.setConnectOptions(u"QSQLITE_OPEN_READONLY"_s);
+    try {
+        if (mode != Mode::Create && !QFileInfo(path).isFile())
+            throw DatabaseError(u"Dosya bulunamadı: "_s + path);
+        if (!m_database.open())
+            fail(m_database.lastError());
+        registerSqliteFunctions(handleOf(m_database));
+        // A misspelt field must be an error, never a text of that spelling.
+        sqlite3_db_config(handleOf(m_database), SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+        run(u"PRAGMA foreign_keys = OFF"_s);
+        if (mode != Mode::ReadOnly) {
+            // What the user saw saved survives a power cut, in one single file.
+            run(u"PRAGMA journal_mode = DELETE"_s);
+            run(u"PRAGMA synchronous = FULL"_s);
+        }
+        // Reading the schema tells at once whether this is a database at all.
+        run(u"SELECT count(*) FROM sqlite_master"_s);
+    } catch (...) {
+        m_database = {};
+        QSqlDatabase::removeDatabase(m_connection);
+        throw;
+    }
+}
+
+SqliteEngine::~SqliteEngine()
+{
+    m_database.close();
+    m_database = {};
+    QSqlDatabase::removeDatabase(m_connection);
+}
+
+void SqliteEngine::fail(const QSqlError &error)
+{
+    const QString text = error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
+    const QString reason = turkishReason(error.nativeErrorCode().toInt());
+    throw DatabaseError(reason.isEmpty() ? text : reason + u" ("_s + text + u')');
+}
+
+QSqlQuery SqliteEngine::prepare(const QString &sql) const
+{
+    QSqlQuery query(m_database);
+    query.setForwardOnly(true);
+    if (!query.prepare(sql))
+        fail(query.lastError());
+    return query;
+}
+
+void SqliteEngine::run(QSqlQuery &query, const QVariantList &values) const
+{
+    for (qsizetype i = 0; i < values.size(); ++i)
+        query.bindValue(int(i), values[i]);
+    if (!query.exec())
+        fail(query.lastError());
+}
+
+bool SqliteEngine::next(QSqlQuery &query) const
+{
+    if (query.next())
+        return true;
+    if (query.lastError().isValid())
+        fail(query.lastError());
+    return false;
+}
+
+QSqlQuery SqliteEngine::run(const QString &sql, const QVariantList &values) const
+{
+    QSqlQuery query = prepare(sql);
+    run(query, values);
+    return query;
+}
+
+QList<SqliteEngine::Column> SqliteEngine::columns(const QSqlQuery &query)
+{
+    const QVariant handle = query.result()->handle();
+    auto *statement = *static_cast<sqlite3_stmt *const *>(handle.constData());
+    QList<Column> result;
+    const int count = sqlite3_column_count(statement);
+    for (int i = 0; i < count; ++i) {
+        result.append({QString::fromUtf8(sqlite3_column_name(statement, i)),
+                       QString::fromUtf8(sqlite3_column_table_name(statement, i)),
+                       QString::fromUtf8(sqlite3_column_decltype(statement, i))});
+    }
+    return result;
+}

@@ -1,0 +1,7 @@
+#pragma once
+
+struct sqlite3;
+
+/// Gives a connection the text order TURKCE and the functions of the product's
+/// SQL that SQLite lacks.
+void registerSqliteFunctions(sqlite3 *connection);

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <functional>
+#include <QDate>
+#include <QString>
+
+class QWidget;
+
+/// What a screen asks of the lookup list: which list, from where on.
+struct LookupRequest
+{
+    QString ListeTuru;   ///< such as "Tas Listesi"
+    QString ListeFiltre; ///< the key text the list starts at; may be empty
+};
+
+/// What the user took; everything empty when nothing was taken.
+struct LookupAnswer
+{
+    QString Secilen;       ///< the chosen code or name
+    QString SecilenID;     ///< identifier of a stone, mold or product type
+    qint16 SecilenTip = 0; ///< product type of a chosen model
+    qint32 SecilenNo = 0;  ///< customer code or order number
+    QDate SecilenTarih;
+};
+
+/// Opens the lookup list modally; handed to the screens by the program.
+using LookupOpener = std::function<LookupAnswer(QWidget *parent, const LookupRequest &request)>;

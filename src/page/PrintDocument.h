@@ -1,0 +1,97 @@
+#pragma once
+
+#include "Twips.h"
+
+#include <QImage>
+#include <QList>
+#include <QString>
+#include <variant>
+
+class QPainter;
+
+/// A point on the page; a text's point is its top left corner.
+struct PagePoint
+{
+    Twips x;
+    Twips y;
+};
+
+struct PageFont
+{
+    QString family;
+    double points = 8;
+    bool bold = false;
+    bool italic = false;
+    friend bool operator==(const PageFont &, const PageFont &) = default;
+};
+
+struct PageText
+{
+    PagePoint at;
+    QString text;
+    PageFont font;
+};
+
+struct PageLine
+{
+    PagePoint from;
+    PagePoint to;
+    Twips width;
+};
+
+struct PagePicture
+{
+    PagePoint at;
+    Twips width;
+    Twips height;
+    QImage image;
+};
+
+using PageItem = std::variant<PageText, PageLine, PagePicture>;
+
+struct PrintPage
+{
+    QList<PageItem> items;
+};
+
+/// What is printed, as data: pages of texts, lines and pictures at positions
+/// in twips from the paper's top left corner. Layout code fills it and knows
+/// no printer; the preview, the printer and the PDF paint the same document.
+class PrintDocument
+{
+public:
+    /// The title names the print job and the PDF.
+    explicit PrintDocument(const QString &title, Twips width = Twips::fromMillimetres(210),
+                           Twips height = Twips::fromMillimetres(297));
+
+    void newPage();
+    void setFont(const PageFont &font) { m_font = font; }
+    const PageFont &font() const { return m_font; }
+    void text(PagePoint at, const QString &text);
+    void line(PagePoint from, PagePoint to, Twips width = Twips(10));
+    /// Fitted into the box with its proportions kept, from the top left.
+    void picture(PagePoint at, Twips width, Twips height, const QImage &image);
+
+    const QString &title() const { return m_title; }
+    Twips width() const { return m_width; }
+    Twips height() const { return m_height; }
+    const QList<PrintPage> &pages() const { return m_pages; }
+
+private:
+    QString m_title;
+    Twips m_width;
+    Twips m_height;
+    PageFont m_font;
+    QList<PrintPage> m_pages;
+};
+
+/// The face that stands for a font name of the layouts: "Courier New Tur"
+/// becomes a fixed-pitch face of the same widths that has the Turkish letters.
+QString printedFamily(const QString &family);
+
+/// Paints a page with a painter whose (0,0) is the paper's corner.
+void paintPage(QPainter &painter, const PrintPage &page, double dotsPerInch);
+
+/// Writes all pages to a PDF file. Throws std::runtime_error with a Turkish
+/// text when the file cannot be written; what was at the path stays then.
+void writePdf(const PrintDocument &document, const QString &path);

@@ -1,0 +1,1 @@
+#include "Oturum.h"

@@ -1,0 +1,11 @@
+#include "TestRegistry.h"
+
+#include <QtTest>
+
+class NumbersTest : public QObject
+{
+    Q_OBJECT
+};
+
+KUYUM_TEST(NumbersTest)
+#include "NumbersTest.moc"

@@ -1,0 +1,34 @@
+#include "TestRegistry.h"
+
+#include <map>
+#include <QApplication>
+#include <QTest>
+
+static std::map<QString, TestRegistry::Factory> &factories()
+{
+    static std::map<QString, TestRegistry::Factory> map;
+    return map;
+}
+
+TestRegistry::TestRegistry(const char *name, Factory factory)
+{
+    factories()[QString::fromLatin1(name)] = factory;
+}
+
+/// program [TestClass [QtTest arguments]]
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("kuyum-tests"));
+    QStringList arguments = QCoreApplication::arguments();
+    QString only;
+    if (arguments.size() > 1 && factories().contains(arguments[1]))
+        only = arguments.takeAt(1);
+
+    int failures = 0;
+    for (const auto &[name, factory] : factories()) {
+        if (only.isEmpty() || only == name)
+            failures += QTest::qExec(factory().get(), arguments);
+    }
+    return failures == 0 ? 0 : 1;
+}
