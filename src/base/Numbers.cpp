@@ -1,7 +1,8 @@
 #include "Numbers.h"
 
+#include <array>
+#include <charconv>
 #include <cmath>
-#include <QLocale>
 
 using namespace Qt::StringLiterals;
 
@@ -99,7 +100,10 @@ QString plainNumber(double value)
 {
     if (!std::isfinite(value))
         return QString::number(value);
-    return QString::number(value, 'f', QLocale::FloatingPointShortest);
+    std::array<char, 400> text; // the smallest double has some 330 decimals
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), value,
+                                   std::chars_format::fixed);
+    return QString::fromLatin1(text.data(), end.ptr - text.data());
 }
 
 QString sqlNumber(double value)
