@@ -1,0 +1,170 @@
+#include "PictureFiles.h"
+
+#include "TurkishText.h"
+
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QImageReader>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// More than the best cameras give; a larger one would take seconds and
+/// gigabytes to decode.
+constexpr qint64 mostPixels = 64'000'000;
+
+bool isPlainName(const QString &name)
+{
+    static const QString forbidden = u"/\\:*?\"<>|"_s;
+    bool onlyPoints = true;
+    for (const QChar c : name) {
+        if (c < u' ' || forbidden.contains(c))
+            return false;
+        onlyPoints = onlyPoints && (c == u'.' || c == u' ');
+    }
+    return !onlyPoints;
+}
+
+/// The entry of that name without regard to case; empty when there is none.
+QString entryIn(const QString &folder, const QString &name, QDir::Filter kind)
+{
+    const QString exact = folder + u'/' + name;
+    const QFileInfo info(exact);
+    if (kind == QDir::Dirs ? info.isDir() : info.isFile())
+        return exact;
+    QDirIterator entries(folder, kind | QDir::NoDotAndDotDot);
+    while (entries.hasNext()) {
+        entries.next();
+        if (sameText(entries.fileName(), name))
+            return entries.filePath();
+    }
+    return {};
+}
+
+QString pictureIn(const QString &folder, const QString &code)
+{
+    const QString name = code.trimmed();
+    return isPlainName(name) ? entryIn(folder, name + u".jpg"_s, QDir::Files) : QString();
+}
+
+QString pictureBelow(const QString &folder, const QString &subfolder, const QString &code)
+{
+    const QString name = subfolder.trimmed();
+    if (!isPlainName(name) || !isPlainName(code.trimmed()))
+        return {};
+    const QString found = entryIn(folder, name, QDir::Dirs);
+    return found.isEmpty() ? QString() : pictureIn(found, code);
+}
+
+quint16 bigEndian(const QByteArray &bytes)
+{
+    return bytes.size() < 2 ? 0 : quint16((quint8(bytes[0]) << 8) | quint8(bytes[1]));
+}
+
+/// Goes past a scan's data to the mark that follows it; inside the data ff is
+/// followed by 00 or a restart mark. Returns 0 at the end of the file.
+quint8 nextMark(QIODevice &file)
+{
+    constexpr qint64 block = 65536;
+    bool afterFf = false;
+    for (;;) {
+        const qint64 start = file.pos();
+        const QByteArray bytes = file.read(block);
+        if (bytes.isEmpty())
+            return 0;
+        for (qsizetype i = 0; i < bytes.size(); ++i) {
+            const quint8 byte = quint8(bytes[i]);
+            const bool restart = byte >= 0xd0 && byte <= 0xd7;
+            if (afterFf && byte != 0 && byte != 0xff && !restart) {
+                file.seek(start + i + 1);
+                return byte;
+            }
+            afterFf = byte == 0xff;
+        }
+    }
+}
+
+/// Whether a JPEG file reaches its end mark. The decoder fills what is missing
+/// with grey and calls that a success.
+bool isCompleteJpeg(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    constexpr quint8 endOfImage = 0xd9;
+    if (bigEndian(file.read(2)) != 0xffd8)
+        return false;
+    for (quint8 mark = nextMark(file); mark != 0; mark = nextMark(file)) {
+        if (mark == endOfImage)
+            return true;
+        const quint16 length = bigEndian(file.read(2));
+        if (length < 2 || !file.seek(file.pos() + length - 2) || file.atEnd())
+            return false;
+    }
+    return false;
+}
+
+QSize fitted(QSize size, QSize box)
+{
+    const bool fits = size.width() <= box.width() && size.height() <= box.height();
+    return fits ? size : size.scaled(box, Qt::KeepAspectRatio).expandedTo({1, 1});
+}
+
+QString name(const QString &path)
+{
+    return QFileInfo(path).fileName();
+}
+
+PictureResult refused(const QString &path, const QString &why)
+{
+    return {{}, u"%1: %2"_s.arg(name(path), why)};
+}
+
+} // namespace
+
+QString modelPicturePath(const QString &folder, const QString &model, const QString &shortName)
+{
+    if (folder.isEmpty())
+        return {};
+    const QString inRoot = pictureIn(folder, model);
+    return inRoot.isEmpty() ? pictureBelow(folder, shortName, model) : inRoot;
+}
+
+QString moldPicturePath(const QString &folder, const QString &code)
+{
+    return folder.isEmpty() ? QString() : pictureBelow(folder, u"KLP"_s, code);
+}
+
+PictureResult loadPicture(const QString &path, QSize maxSize)
+{
+    // A pipe or a device by that name would never end.
+    if (!QFileInfo(path).isFile())
+        return refused(path, u"Resim dosyası bulunamadı."_s);
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return refused(path, u"Resim dosyası açılamadı. "_s + file.errorString());
+
+    QImageReader reader(&file);
+    reader.setDecideFormatFromContent(true);
+    static const QList<QByteArray> known = {"jpeg"_ba, "jpg"_ba, "png"_ba, "bmp"_ba, "gif"_ba};
+    if (!known.contains(reader.format()))
+        return refused(path, u"Dosya bir resim değil."_s);
+    const QSize size = reader.size();
+    if (!size.isValid() || size.isEmpty())
+        return refused(path, u"Resim dosyası bozuk."_s);
+    if (qint64(size.width()) * size.height() > mostPixels) {
+        return refused(path,
+                       u"Resim çok büyük (%1 x %2 nokta)."_s.arg(size.width()).arg(size.height()));
+    }
+    if (reader.format().startsWith("jp") && !isCompleteJpeg(path))
+        return refused(path, u"Resim dosyası eksik, sonu kesilmiş."_s);
+
+    reader.setAutoTransform(true);
+    const bool turned = reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+    const QSize target = fitted(size, turned ? maxSize.transposed() : maxSize);
+    if (target != size)
+        reader.setScaledSize(target);
+    const QImage image = reader.read();
+    return image.isNull() ? refused(path, u"Resim dosyası bozuk."_s) : PictureResult{image, {}};
+}
