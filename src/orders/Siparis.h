@@ -2,6 +2,7 @@
 
 #include <QDate>
 #include <QList>
+#include <QMap>
 #include <QString>
 
 /// One product type: a quantity column of the order grid.
@@ -10,6 +11,34 @@ struct UrunTipi
     qint32 TipID = 0;
     QString ad;     ///< UrunTipi.UrunTipi
     QString KisaAD; ///< heads the column
+    friend bool operator==(const UrunTipi &, const UrunTipi &) = default;
+};
+
+/// Where a line stands in production: set by production tracking, carried
+/// through a save unchanged.
+struct UretimDurumu
+{
+    QString durum1;
+    QString durum2;
+    QDateTime basTrh; ///< invalid: never set; 01.01.2000 stands for no date
+    QDateTime bitTrh;
+
+    /// Production has begun: a status or a date is set.
+    bool hareketGormus() const;
+    friend bool operator==(const UretimDurumu &, const UretimDurumu &) = default;
+};
+
+/// A stored line that has no cell in the grid: its colour or product type is
+/// no longer defined, or its model no longer has that product type. A save
+/// leaves such a line as it is.
+struct SaklananSatir
+{
+    qint32 Dotosayi = 0;
+    QString model;
+    QString renk;
+    qint32 adet = 0;
+    UretimDurumu durum;
+    friend bool operator==(const SaklananSatir &, const SaklananSatir &) = default;
 };
 
 /// One row of the order grid: a model in a colour, with a quantity for each
@@ -19,11 +48,22 @@ struct SiparisSatiri
     QString model;
     QString renk;
     QList<qint32> adetler; ///< one per product type, in the order of the columns; 0 is none
+    QList<bool> sari;      ///< per column: whether the model has that product type
     QString aciklama;
-    QString durum1;
-    QString durum2;
-    QDate basTrh; ///< invalid: not set (stored as 01.01.2000)
-    QDate bitTrh;
+    UretimDurumu durum;
+    /// By column: the cells whose line stands elsewhere in production than `durum`.
+    QMap<int, UretimDurumu> ayriDurumlar;
+    /// Lines of this row that have no cell; they go when the row is removed.
+    QList<SaklananSatir> saklananlar;
+
+    /// An empty row for that many product types.
+    static SiparisSatiri bos(qsizetype tipSayisi);
+    /// The sum of the quantities.
+    qint64 toplamAdet() const;
+    /// What the line under that column carries.
+    const UretimDurumu &durumu(int column) const;
+    bool hareketGormus() const;
+    friend bool operator==(const SiparisSatiri &, const SiparisSatiri &) = default;
 };
 
 /// An order as it stands on the screen.
@@ -40,4 +80,9 @@ struct Siparis
     QString Aciklama;
     QList<UrunTipi> tipler; ///< all product types in the order of their columns
     QList<SiparisSatiri> satirlar;
+    QList<SaklananSatir> saklananlar; ///< stored lines that belong to no row
+
+    /// The lines without a cell, those of the rows included.
+    QList<SaklananSatir> tumSaklananlar() const;
+    friend bool operator==(const Siparis &, const Siparis &) = default;
 };

@@ -1,0 +1,247 @@
+#include "SiparisStore.h"
+
+#include "Dates.h"
+#include "Numbers.h"
+#include "Oturum.h"
+#include "SiparisAramalari.h"
+#include "SiparisKatlama.h"
+#include "TurkishText.h"
+
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum class Copy { Same, ProductionNotBegun };
+
+UretimDurumu stateOf(const Recordset &line)
+{
+    return {line.text(u"Drm1"), line.text(u"Drm2"), line.value(u"Trhbas").toDateTime(),
+            line.value(u"Trhbit").toDateTime()};
+}
+
+QDateTime storedDate(const QDateTime &date)
+{
+    return date.isValid() ? date : QDateTime(noDate(), QTime(0, 0), Qt::UTC);
+}
+
+void setHeader(Recordset &header, const Siparis &siparis)
+{
+    header.set(u"TesTrh", siparis.TesTrh);
+    header.set(u"SipFirkod", siparis.Firkod);
+    header.set(u"Ayar", siparis.Ayar);
+    header.set(u"Patent", siparis.Patent);
+    header.set(u"Aciklama", siparis.Aciklama);
+}
+
+void setState(Recordset &line, const UretimDurumu &state)
+{
+    line.set(u"Drm1", state.durum1);
+    line.set(u"Drm2", state.durum2);
+    line.set(u"Trhbas", storedDate(state.basTrh));
+    line.set(u"Trhbit", storedDate(state.bitTrh));
+}
+
+/// The product types of the columns by their short names as they are defined
+/// now. A name that two types share cannot tell them apart; the column can.
+QList<qint32> columnTypes(Oturum &oturum, const QList<UrunTipi> &tipler)
+{
+    QHash<QString, int> sharing;
+    for (const UrunTipi &tip : tipler)
+        ++sharing[foldedText(tip.KisaAD)];
+    const SiparisAramalari lookups(oturum);
+    QList<qint32> ids;
+    for (const UrunTipi &tip : tipler) {
+        const bool shared = sharing[foldedText(tip.KisaAD)] > 1;
+        const qint32 defined = shared ? 0 : lookups.UrunTipIdBul(tip.KisaAD);
+        ids.append(defined != 0 ? defined : tip.TipID);
+    }
+    return ids;
+}
+
+/// Adds a line for every quantity. A copy's lines get no row number.
+void addLines(Oturum &oturum, const Siparis &siparis, Copy copy)
+{
+    static const UretimDurumu notBegun{u" "_s, u" "_s, {}, {}};
+    const QList<qint32> typeIds = columnTypes(oturum, siparis.tipler);
+    Recordset lines = oturum.Veritabani->table(u"SiparisD"_s);
+    for (qsizetype i = 0; i < siparis.satirlar.size(); ++i) {
+        const SiparisSatiri &row = siparis.satirlar[i];
+        if (row.model.isEmpty())
+            continue;
+        for (qsizetype j = 0; j < siparis.tipler.size(); ++j) {
+            if (row.adetler[j] == 0)
+                continue;
+            lines.addNew();
+            if (copy == Copy::Same)
+                lines.set(u"SipSatir", i + 1);
+            lines.set(u"SipnumD", siparis.Sipnum);
+            lines.set(u"SipModel", row.model);
+            lines.set(u"Siprenk", row.renk);
+            lines.set(u"SipAck", row.aciklama);
+            setState(lines, copy == Copy::Same ? row.durumu(int(j)) : notBegun);
+            lines.set(u"SipAdet", row.adetler[j]);
+            lines.set(u"SipUruntip", typeIds[j]);
+            lines.update();
+        }
+    }
+}
+
+/// Removes the lines that the screen shows, and so is about to write again.
+QString deleteLinesSql(const Siparis &siparis)
+{
+    QStringList kept;
+    for (const SaklananSatir &line : siparis.tumSaklananlar())
+        kept.append(QString::number(line.Dotosayi));
+    const QString all = u"DELETE From SiparisD Where SipnumD = "_s + sqlNumber(siparis.Sipnum);
+    return kept.isEmpty() ? all : all + u" and Dotosayi Not In("_s + kept.join(u',') + u')';
+}
+
+} // namespace
+
+QList<UrunTipi> SiparisStore::UrunTipleri() const
+{
+    Recordset Kayit = m_oturum->sorgula(u"Select * From UrunTipi Order by Sirano;"_s);
+    QList<UrunTipi> types;
+    while (Kayit.next()) {
+        types.append(
+            {qint32(Kayit.integer(u"TipID")), Kayit.text(u"UrunTipi"), Kayit.text(u"KisaAD")});
+    }
+    return types;
+}
+
+std::optional<Siparis> SiparisStore::SiparisBul(qint32 Sipnum) const
+{
+    Recordset Kayit = m_oturum->sorgula(u"Select * From SiparisB, Firma "
+                                        "Where SiparisB.SipFirkod = Firma.Firkod "
+                                        "and Sipnum = "_s +
+                                        sqlNumber(Sipnum));
+    if (!Kayit.next())
+        return std::nullopt;
+    Siparis siparis;
+    siparis.Sipnum = Sipnum;
+    siparis.Firkod = qint32(Kayit.integer(u"Firkod"));
+    siparis.FirAdi = Kayit.text(u"FirAdi");
+    siparis.KisaAD = Kayit.text(u"KisaAD");
+    siparis.TesTrh = Kayit.date(u"TesTrh");
+    siparis.SipTrh = Kayit.date(u"SipTrh");
+    siparis.Ayar = Kayit.number(u"Ayar");
+    siparis.Patent = Kayit.text(u"Patent");
+    siparis.Aciklama = Kayit.text(u"SiparisB.Aciklama");
+    siparis.tipler = UrunTipleri();
+
+    const SiparisAramalari lookups(*m_oturum);
+    QHash<QString, QStringList> known;
+    const auto typesOf = [&](const QString &model) {
+        auto types = known.constFind(model);
+        return types != known.constEnd() ? *types
+                                         : *known.insert(model, lookups.modelTipleri(model));
+    };
+    const QList<SiparisKaydi> lines = satirKayitlari(Sipnum);
+    siparis.satirlar = satirlaraKatla(lines, siparis.tipler, typesOf);
+    siparis.saklananlar = digerSatirlar(Sipnum, lines);
+    return siparis;
+}
+
+QList<SiparisKaydi> SiparisStore::satirKayitlari(qint32 Sipnum) const
+{
+    Recordset Kayit =
+        m_oturum->sorgula(u"Select * From SiparisD, UrunTipi, Renkler "
+                          "Where Sipuruntip = TipID and SiparisD.Siprenk = Renkler.Renkno "
+                          "and SipnumD = "_s +
+                          sqlNumber(Sipnum) + u" Order by SipSatir, Sipmodel, Renksira, Sipack;"_s);
+    QList<SiparisKaydi> lines;
+    QSet<qint32> seen; // a type or colour that is defined twice must not double the pieces
+    while (Kayit.next()) {
+        const qint32 id = qint32(Kayit.integer(u"Dotosayi"));
+        if (seen.contains(id))
+            continue;
+        seen.insert(id);
+        lines.append({id, Kayit.text(u"SipSatir"), Kayit.text(u"SipModel"), Kayit.text(u"Siprenk"),
+                      Kayit.text(u"SipAck"), qint32(Kayit.integer(u"SipUruntip")),
+                      qint32(Kayit.integer(u"SipAdet")), stateOf(Kayit)});
+    }
+    return lines;
+}
+
+QList<SaklananSatir> SiparisStore::digerSatirlar(qint32 Sipnum,
+                                                 const QList<SiparisKaydi> &gosterilen) const
+{
+    QSet<qint32> shown;
+    for (const SiparisKaydi &line : gosterilen)
+        shown.insert(line.Dotosayi);
+    Recordset Kayit =
+        m_oturum->sorgula(u"Select * From SiparisD Where SipnumD = "_s + sqlNumber(Sipnum));
+    QList<SaklananSatir> others;
+    while (Kayit.next()) {
+        const qint32 id = qint32(Kayit.integer(u"Dotosayi"));
+        if (!shown.contains(id)) {
+            others.append({id, Kayit.text(u"SipModel"), Kayit.text(u"Siprenk"),
+                           qint32(Kayit.integer(u"SipAdet")), stateOf(Kayit)});
+        }
+    }
+    return others;
+}
+
+std::optional<qint32> SiparisStore::baslikFirmasi(qint32 Sipnum) const
+{
+    Recordset Kayit =
+        m_oturum->sorgula(u"Select * From SiparisB Where Sipnum = "_s + sqlNumber(Sipnum));
+    if (!Kayit.next())
+        return std::nullopt;
+    return qint32(Kayit.integer(u"SipFirkod"));
+}
+
+bool SiparisStore::kaydet(Siparis &siparis) const
+{
+    if (siparis.Sipnum != 0) {
+        Recordset header = m_oturum->sorgula(u"Select * From SiparisB Where Sipnum = "_s +
+                                             sqlNumber(siparis.Sipnum));
+        if (!header.next())
+            return false;
+        header.edit();
+        setHeader(header, siparis);
+        header.update();
+    } else {
+        baslikEkle(siparis, siparis.SipTrh);
+    }
+
+    Transaction lines(*m_oturum->Veritabani);
+    calistir(deleteLinesSql(siparis));
+    addLines(*m_oturum, siparis, Copy::Same);
+    lines.commit();
+    return true;
+}
+
+void SiparisStore::yeniKaydet(Siparis &siparis, QDate SipTrh) const
+{
+    baslikEkle(siparis, SipTrh);
+    Transaction lines(*m_oturum->Veritabani);
+    addLines(*m_oturum, siparis, Copy::ProductionNotBegun);
+    lines.commit();
+}
+
+void SiparisStore::sil(qint32 Sipnum) const
+{
+    Transaction removal(*m_oturum->Veritabani);
+    calistir(u"DELETE From SiparisB Where Sipnum = "_s + sqlNumber(Sipnum));
+    calistir(u"DELETE From SiparisD Where SipnumD = "_s + sqlNumber(Sipnum));
+    removal.commit();
+}
+
+void SiparisStore::baslikEkle(Siparis &siparis, QDate SipTrh) const
+{
+    Recordset headers = m_oturum->Veritabani->table(u"SiparisB"_s);
+    headers.addNew();
+    headers.set(u"SipTrh", SipTrh);
+    setHeader(headers, siparis);
+    headers.update();
+    siparis.Sipnum = qint32(headers.integer(u"Sipnum"));
+}
+
+void SiparisStore::calistir(const QString &sql) const
+{
+    m_oturum->SonSQL = sql;
+    m_oturum->Veritabani->execute(sql);
+}
