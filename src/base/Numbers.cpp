@@ -101,8 +101,8 @@ QString plainNumber(double value)
     if (!std::isfinite(value))
         return QString::number(value);
     std::array<char, 400> text; // the smallest double has some 330 decimals
-    const auto end = std::to_chars(text.data(), text.data() + text.size(), value,
-                                   std::chars_format::fixed);
+    const auto end =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed);
     return QString::fromLatin1(text.data(), end.ptr - text.data());
 }
 

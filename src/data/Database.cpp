@@ -76,6 +76,15 @@ qint64 Database::execute(const QString &sql)
     return m_engine->run(translated.text).numRowsAffected();
 }
 
+QString Database::queryPlan(const QString &sql)
+{
+    QSqlQuery plan = m_engine->run(u"EXPLAIN QUERY PLAN "_s + translateSql(sql).text);
+    QStringList steps;
+    while (m_engine->next(plan))
+        steps.append(plan.value(3).toString());
+    return steps.join(u'\n');
+}
+
 QStringList Database::tableNames() const
 {
     QSqlQuery names = m_engine->run(

@@ -33,6 +33,8 @@ public:
     Recordset table(const QString &name);
     /// Runs a statement that gives no rows; returns how many rows it changed.
     qint64 execute(const QString &sql);
+    /// How the engine would find the rows of a SELECT, a line per step.
+    QString queryPlan(const QString &sql);
 
     QStringList tableNames() const;
     bool hasTable(const QString &name) const;

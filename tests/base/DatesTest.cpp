@@ -9,7 +9,7 @@ class DatesTest : public QObject
 {
     Q_OBJECT
 
-  private Q_SLOTS:
+private Q_SLOTS:
     void readsTyped_data();
     void readsTyped();
     void storesAndShows();

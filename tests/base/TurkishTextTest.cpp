@@ -1,5 +1,5 @@
-#include "TestRegistry.h"
 #include "TurkishText.h"
+#include "TestRegistry.h"
 
 #include <QtTest>
 
@@ -9,7 +9,7 @@ class TurkishTextTest : public QObject
 {
     Q_OBJECT
 
-  private Q_SLOTS:
+private Q_SLOTS:
     void sortsAsTheAlphabet();
     void comparesAllWaysAlike_data();
     void comparesAllWaysAlike();
@@ -19,12 +19,12 @@ class TurkishTextTest : public QObject
 
 void TurkishTextTest::sortsAsTheAlphabet()
 {
-    const QStringList inOrder = {
-        u""_s,    u"-"_s,    u"."_s,    u"_"_s,     u"0"_s,    u"1A"_s,   u"9"_s,   u"a"_s,
-        u"A-1"_s, u"ab"_s,   u"âb"_s,   u"B"_s,     u"c"_s,    u"Ca"_s,   u"ça"_s,  u"d"_s,
-        u"ez"_s,  u"éa"_s,   u"g"_s,    u"ğ"_s,     u"hz"_s,   u"ılık"_s, u"Irak"_s,
-        u"iz"_s,  u"İa"_s,   u"j"_s,    u"oz"_s,    u"Öa"_s,   u"p"_s,    u"sz"_s,  u"şa"_s,
-        u"t"_s,   u"uz"_s,   u"ÜA"_s,   u"v"_s,     u"z"_s,    u"я"_s};
+    const QStringList inOrder = {u""_s,     u"-"_s,    u"."_s,  u"_"_s,  u"0"_s,  u"1A"_s, u"9"_s,
+                                 u"a"_s,    u"A-1"_s,  u"ab"_s, u"âb"_s, u"B"_s,  u"c"_s,  u"Ca"_s,
+                                 u"ça"_s,   u"d"_s,    u"ez"_s, u"éa"_s, u"g"_s,  u"ğ"_s,  u"hz"_s,
+                                 u"ılık"_s, u"Irak"_s, u"iz"_s, u"İa"_s, u"j"_s,  u"oz"_s, u"Öa"_s,
+                                 u"p"_s,    u"sz"_s,   u"şa"_s, u"t"_s,  u"uz"_s, u"ÜA"_s, u"v"_s,
+                                 u"z"_s,    u"я"_s};
     // I sorts with i: "Irak" comes before "iz", both after every ı.
     for (qsizetype a = 0; a < inOrder.size(); ++a) {
         for (qsizetype b = 0; b < inOrder.size(); ++b) {
