@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+class Messages;
+class QAbstractItemView;
+class QColor;
+class QComboBox;
+class QLineEdit;
+
+/// Helpers of the boxes, lists and grids that data are entered with.
+
+/// Refuses a text that is no number, with a message, and cuts it back to the
+/// part that is one. A lone "," or "." stays: a number being started.
+void SayiKontrol(QLineEdit &box, Messages &messages);
+/// Makes the decimal comma a point.
+void VirgulNokta(QLineEdit &box);
+/// Both of them at every change of the box.
+void keepNumeric(QLineEdit &box, Messages &messages);
+
+/// Selects the first entry with exactly this text, or leaves the selection.
+void ComboSec(QComboBox &list, const QString &text);
+/// Selects the first entry that carries this number, or leaves the selection.
+void ComboSecNo(QComboBox &list, qint64 number);
+
+void TumunuSec(QLineEdit &box);
+
+/// Mark the grid's current row, cell by cell, in the model's own roles; the
+/// first column becomes the current one.
+void SatirArkaRenk(QAbstractItemView &grid, const QColor &color);
+void SatirYaziRenk(QAbstractItemView &grid, const QColor &color);
