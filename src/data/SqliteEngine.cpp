@@ -42,6 +42,19 @@ QString turkishReason(int code)
     }
 }
 
+/// A save that was cut off leaves its journal beside the file, and only a
+/// connection that may write can take the half-done save back.
+void takeBackCutOffSave(const QString &path)
+{
+    if (!QFileInfo::exists(path + u"-journal"_s))
+        return;
+    try {
+        const SqliteEngine writable(path, SqliteEngine::Mode::ReadWrite);
+    } catch (const DatabaseError &) {
+        // Reading will say what is wrong.
+    }
+}
+
 QString uniqueConnectionName()
 {
     static QAtomicInt count;
@@ -60,6 +73,8 @@ SqliteEngine::SqliteEngine(const QString &path, Mode mode)
     try {
         if (mode != Mode::Create && !QFileInfo(path).isFile())
             throw DatabaseError(u"Dosya bulunamadı: "_s + path);
+        if (mode == Mode::ReadOnly)
+            takeBackCutOffSave(path);
         if (!m_database.open())
             fail(m_database.lastError());
         registerSqliteFunctions(handleOf(m_database));

@@ -1,6 +1,7 @@
 #include "Database.h"
 #include "SampleCompany.h"
 #include "Schema.h"
+#include "SqliteEngine.h"
 #include "TestRegistry.h"
 
 #include <QtTest>
@@ -24,6 +25,7 @@ private Q_SLOTS:
     void refusesToEditJoins();
     void seeksByKey();
     void rollsBackUnlessCommitted();
+    void takesBackACutOffSave();
     void numbersGoOnAfterTheHighest();
     void tellsDefinitionsBack();
     void completesAnOlderFile();
@@ -204,6 +206,27 @@ void RecordsetTest::rollsBackUnlessCommitted()
         transaction.commit();
     }
     QVERIFY(!m_db->query(u"Select * From SiparisD"_s).next());
+}
+
+void RecordsetTest::takesBackACutOffSave()
+{
+    // A copy of the files in the middle of a save is what a killed program or
+    // a power cut leaves behind.
+    m_db->engine().run(u"PRAGMA cache_size = 2"_s);
+    const QString left = m_folder->filePath(u"kesik.kuyum"_s);
+    {
+        Transaction transaction(*m_db);
+        m_db->execute(u"UPDATE SiparisD Set SipAdet = 77"_s);
+        m_db->execute(u"UPDATE Model Set M_Miktar = 77"_s);
+        m_db->execute(u"UPDATE Firma Set FirAdi = 'yarım'"_s);
+        QVERIFY(QFile::copy(m_db->path(), left));
+        QVERIFY(QFile::copy(m_db->path() + u"-journal"_s, left + u"-journal"_s));
+    }
+    const std::unique_ptr<Database> db = Database::open(left, Database::Access::ReadOnly);
+    Recordset half = db->query(u"Select * From Firma Where FirAdi = 'yarım'"_s);
+    QVERIFY(!half.next());
+    QVERIFY(!db->query(u"Select * From SiparisD Where SipAdet = 77"_s).next());
+    QVERIFY_THROWS_EXCEPTION(DatabaseError, db->execute(u"DELETE From Firma"_s));
 }
 
 void RecordsetTest::numbersGoOnAfterTheHighest()
