@@ -10,6 +10,7 @@ namespace {
 /// Every word of the command line, one row each.
 constexpr Command commands[] = {
     {u"sorgu", u"kuyum sorgu VERITABANI \"SELECT ...\"", sorguCommand},
+    {u"demo", u"kuyum demo KLASOR [--olcek N]", demoCommand, true},
 };
 
 void printTo(FILE *stream, const QString &line)

@@ -14,6 +14,7 @@ struct Command
     /// Gets what follows the word; returns the exit code. May throw
     /// std::exception to refuse and WrongUsage for words it does not take.
     int (*run)(const QStringList &arguments);
+    bool draws = false; ///< paints text, and so needs the fonts of a QGuiApplication
 };
 
 /// Thrown by a command whose words are off; main() shows the usage.
@@ -33,3 +34,4 @@ void printLine(const QString &line);
 void printError(const QString &line);
 
 int sorguCommand(const QStringList &arguments);
+int demoCommand(const QStringList &arguments);

@@ -1,6 +1,6 @@
 #include "CommandLine.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 
 using namespace Qt::StringLiterals;
 
@@ -11,6 +11,12 @@ int main(int argc, char **argv)
         arguments.append(QString::fromLocal8Bit(argv[i]));
 
     const Command *command = arguments.isEmpty() ? nullptr : findCommand(arguments.first());
+    if (command != nullptr && command->draws) {
+        // Fonts without a window, on a machine without a display too.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        const QGuiApplication application(argc, argv);
+        return runCommand(*command, arguments.mid(1));
+    }
     if (command != nullptr) {
         const QCoreApplication application(argc, argv);
         return runCommand(*command, arguments.mid(1));

@@ -1,0 +1,6 @@
+#pragma once
+
+class Database;
+
+/// Countries and customers; returns how many customers (Firkod 1 to count).
+int fillCustomers(Database &company, int scale);

@@ -1,0 +1,11 @@
+#include "DemoRow.h"
+
+#include "Recordset.h"
+
+void addRow(Recordset &rows, std::initializer_list<DemoField> fields)
+{
+    rows.addNew();
+    for (const DemoField &field : fields)
+        rows.set(field.name, field.value);
+    rows.update();
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <initializer_list>
+#include <QStringView>
+#include <QVariant>
+
+class Recordset;
+
+struct DemoField
+{
+    QStringView name;
+    QVariant value;
+};
+
+/// Adds one row with these fields.
+void addRow(Recordset &rows, std::initializer_list<DemoField> fields);
