@@ -1,4 +1,5 @@
 #include "CommandLine.h"
+#include "Program.h"
 
 #include <QGuiApplication>
 
@@ -9,8 +10,9 @@ int main(int argc, char **argv)
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
+    const QString word = arguments.value(0);
 
-    const Command *command = arguments.isEmpty() ? nullptr : findCommand(arguments.first());
+    const Command *command = findCommand(word);
     if (command != nullptr && command->draws) {
         // Fonts without a window, on a machine without a display too.
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -21,6 +23,13 @@ int main(int argc, char **argv)
         const QCoreApplication application(argc, argv);
         return runCommand(*command, arguments.mid(1));
     }
-    printError(usageText());
-    return exitWrongUsage;
+    if (word == "--help"_L1 || word == "-h"_L1) {
+        printLine(usageText());
+        return 0;
+    }
+    if (!word.isEmpty() && !word.startsWith(u'-')) {
+        printError(usageText());
+        return exitWrongUsage;
+    }
+    return runProgram(argc, argv);
 }

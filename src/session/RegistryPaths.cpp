@@ -77,6 +77,11 @@ QString RegistryPaths::resolve(const QString &path) const
     return descend(m_folder.path(), parts);
 }
 
+QString RegistryPaths::resolveDatabase(const QString &path) const
+{
+    return resolve(path);
+}
+
 QString RegistryPaths::defaultRegistryFile()
 {
 #ifdef Q_OS_WIN

@@ -15,6 +15,9 @@ public:
     /// spelled as they are on disk; the rest stays as written. A path of
     /// another drive or a share only has its slashes turned.
     QString resolve(const QString &path) const;
+    /// The same for a database file. Where only the file that a legacy one was
+    /// taken over into is left, it is that one.
+    QString resolveDatabase(const QString &path) const;
 
     /// Where the registry lies when nothing else is named: c:\database on
     /// Windows, elsewhere under the user's data folder.

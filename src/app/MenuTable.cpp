@@ -1,0 +1,6 @@
+#include "MenuTable.h"
+
+MenuScreens menuTable(Oturum &, Messages &)
+{
+    return {};
+}

@@ -1,0 +1,4 @@
+#pragma once
+
+/// The program with its windows: kuyum [--sirket FILE]. Returns the exit code.
+int runProgram(int &argc, char **argv);

@@ -1,0 +1,5 @@
+#pragma once
+
+/// Whether windows can be opened at all, told before Qt would end the program
+/// for want of a display.
+bool hasDisplay();

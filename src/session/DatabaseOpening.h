@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Database.h"
+
+#include <memory>
+
+class Messages;
+class QWidget;
+
+/// openCompany or openRegistry.
+using DatabaseOpener = std::unique_ptr<Database> (*)(const QString &path);
+
+/// Opens what a path names. A legacy file is taken over first, behind a window
+/// that shows how far it is and can stop it; a legacy file that was changed
+/// since its take-over is mentioned. Throws DatabaseError.
+std::unique_ptr<Database> openTakenOver(QWidget *parent, Messages &messages, const QString &path,
+                                        DatabaseOpener open);

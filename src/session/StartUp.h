@@ -1,0 +1,22 @@
+#pragma once
+
+#include "MenuScreens.h"
+
+#include <QString>
+
+class AnaMenu;
+class Messages;
+struct Oturum;
+
+/// What the way from the program's start to its main menu needs.
+struct StartUp
+{
+    Oturum &oturum; ///< kayitYolu names the registry
+    Messages &messages;
+    MenuScreens screens;
+    QString programFolder;
+};
+
+/// Logs in and makes the main menu, not yet shown. Null when the program has
+/// to end: another copy runs, there is no registry, or nobody logged in.
+std::unique_ptr<AnaMenu> startUp(const StartUp &start, bool otherCopyRuns);
