@@ -33,5 +33,6 @@ int runCommand(const Command &command, const QStringList &arguments);
 void printLine(const QString &line);
 void printError(const QString &line);
 
+int aktarCommand(const QStringList &arguments);
 int sorguCommand(const QStringList &arguments);
 int demoCommand(const QStringList &arguments);

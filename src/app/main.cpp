@@ -1,12 +1,16 @@
 #include "CommandLine.h"
 #include "Program.h"
 
+#include "TakeOverProcess.h"
+
 #include <QGuiApplication>
 
 using namespace Qt::StringLiterals;
 
 int main(int argc, char **argv)
 {
+    if (const std::optional<int> result = runTakeOverStep(argc, argv))
+        return *result;
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));

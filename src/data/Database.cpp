@@ -15,6 +15,9 @@ namespace {
 constexpr auto primaryMark = ".pk."_L1;
 constexpr auto indexMark = ".ix."_L1;
 
+/// Begins the names of tables that hold nothing of the company's.
+constexpr auto bookkeepingMark = "kuyum_"_L1;
+
 QString defaultLiteral(const QVariant &value)
 {
     if (value.typeId() != QMetaType::QString)
@@ -91,8 +94,11 @@ QStringList Database::tableNames() const
         u"SELECT name FROM sqlite_master WHERE type = 'table' AND substr(name, 1, 7) <> 'sqlite_' "
         "ORDER BY rowid"_s);
     QStringList result;
-    while (m_engine->next(names))
-        result.append(names.value(0).toString());
+    while (m_engine->next(names)) {
+        const QString name = names.value(0).toString();
+        if (!name.startsWith(bookkeepingMark))
+            result.append(name);
+    }
     return result;
 }
 

@@ -1,6 +1,9 @@
 #include "Schema.h"
 
 #include "Database.h"
+#include "TurkishText.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -170,16 +173,18 @@ bool hasIndexOver(const TableDef &table, const IndexDef &wanted)
     return false;
 }
 
-void addIndex(Database &db, const QString &table, IndexDef index)
+/// A legacy file can have given the name to an index over other fields.
+IndexDef freelyNamed(IndexDef index, const TableDef &table)
 {
-    try {
-        db.createIndex(table, index);
-    } catch (const DatabaseError &) {
-        if (!index.unique)
-            throw;
-        index.unique = index.primary = false;
-        db.createIndex(table, index);
-    }
+    const auto isTaken = [&] {
+        return std::any_of(
+            table.indexes.begin(), table.indexes.end(),
+            [&](const IndexDef &present) { return sameText(present.name, index.name); });
+    };
+    const QString name = index.name;
+    for (int number = 2; isTaken(); ++number)
+        index.name = name + u'_' + QString::number(number);
+    return index;
 }
 
 std::unique_ptr<Database> openCurrent(const QString &path, const QList<TableDef> &tables)
@@ -229,6 +234,19 @@ const QList<TableDef> &registryTables()
     return tables;
 }
 
+void createIndexAsAllowed(Database &db, const QString &table, IndexDef index)
+{
+    try {
+        db.createIndex(table, index);
+    } catch (const DatabaseError &) {
+        if (!index.unique)
+            throw;
+        index.unique = index.primary = false;
+        if (!hasIndexOver(db.tableDef(table), index))
+            db.createIndex(table, index);
+    }
+}
+
 void completeTables(Database &db, const QList<TableDef> &tables)
 {
     for (const TableDef &wanted : tables) {
@@ -246,7 +264,7 @@ void completeTables(Database &db, const QList<TableDef> &tables)
         }
         for (const IndexDef &index : wanted.indexes) {
             if (!hasIndexOver(present, index))
-                addIndex(db, present.name, index);
+                createIndexAsAllowed(db, present.name, freelyNamed(index, present));
         }
     }
 }

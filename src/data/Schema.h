@@ -21,6 +21,9 @@ constexpr int currentSchemaVersion = 1;
 /// made without that.
 void completeTables(Database &db, const QList<TableDef> &tables);
 
+/// Makes an index; one that the rows forbid to be unique without that.
+void createIndexAsAllowed(Database &db, const QString &table, IndexDef index);
+
 /// Opens a company for work: steps an older file up to the current layout,
 /// refuses a newer one with a DatabaseError that says so.
 std::unique_ptr<Database> openCompany(const QString &path);

@@ -55,6 +55,12 @@ void takeBackCutOffSave(const QString &path)
     }
 }
 
+[[noreturn]] void throwFailure(int code, const QString &text)
+{
+    const QString reason = turkishReason(code);
+    throw DatabaseError(reason.isEmpty() ? text : reason + u" ("_s + text + u')');
+}
+
 QString uniqueConnectionName()
 {
     static QAtomicInt count;
@@ -105,8 +111,17 @@ SqliteEngine::~SqliteEngine()
 void SqliteEngine::fail(const QSqlError &error)
 {
     const QString text = error.databaseText().isEmpty() ? error.driverText() : error.databaseText();
-    const QString reason = turkishReason(error.nativeErrorCode().toInt());
-    throw DatabaseError(reason.isEmpty() ? text : reason + u" ("_s + text + u')');
+    throwFailure(error.nativeErrorCode().toInt(), text);
+}
+
+void SqliteEngine::fail() const
+{
+    throwFailure(sqlite3_errcode(handle()), QString::fromUtf8(sqlite3_errmsg(handle())));
+}
+
+sqlite3 *SqliteEngine::handle() const
+{
+    return handleOf(m_database);
 }
 
 QSqlQuery SqliteEngine::prepare(const QString &sql) const

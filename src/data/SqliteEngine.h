@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <QVariant>
 
+struct sqlite3;
 struct sqlite3_stmt;
 
 /// The engine behind a Database: one SQLite file through Qt SQL, set up so
@@ -44,6 +45,11 @@ public:
     /// Throws the failure that the engine reported, with its own text and, for
     /// the causes a user can mend, a Turkish sentence before it.
     [[noreturn]] static void fail(const QSqlError &error);
+    /// The same for what the engine's own functions returned.
+    [[noreturn]] void fail() const;
+
+    /// The engine's own connection, for what moves rows by the million.
+    sqlite3 *handle() const;
 
 private:
     QString m_connection;

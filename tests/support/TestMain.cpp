@@ -1,5 +1,7 @@
 #include "TestRegistry.h"
 
+#include "TakeOverProcess.h"
+
 #include <map>
 #include <QApplication>
 #include <QTest>
@@ -15,9 +17,14 @@ TestRegistry::TestRegistry(const char *name, Factory factory)
     factories()[QString::fromLatin1(name)] = factory;
 }
 
+/// A take-over runs its steps in processes of the program itself, which is this
+/// one in a test.
+///
 /// program [TestClass [QtTest arguments]]
 int main(int argc, char **argv)
 {
+    if (const std::optional<int> result = runTakeOverStep(argc, argv))
+        return *result;
     QApplication application(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kuyum-tests"));
     QStringList arguments = QCoreApplication::arguments();

@@ -1,0 +1,92 @@
+#include "BulkStatement.h"
+
+#include "SqliteEngine.h"
+
+#include <sqlite3.h>
+
+BulkStatement::BulkStatement(const SqliteEngine &engine, const QString &sql) : m_engine(engine)
+{
+    const QByteArray utf8 = sql.toUtf8();
+    if (sqlite3_prepare_v2(engine.handle(), utf8.constData(), int(utf8.size()), &m_statement,
+                           nullptr) != SQLITE_OK)
+        engine.fail();
+}
+
+BulkStatement::~BulkStatement()
+{
+    sqlite3_finalize(m_statement);
+}
+
+void BulkStatement::bind(int place, const RawValue &value)
+{
+    int result = SQLITE_OK;
+    switch (value.kind) {
+    case RawValue::Kind::Null:
+        result = sqlite3_bind_null(m_statement, place + 1);
+        break;
+    case RawValue::Kind::Integer:
+        result = sqlite3_bind_int64(m_statement, place + 1, value.integer);
+        break;
+    case RawValue::Kind::Real:
+        result = sqlite3_bind_double(m_statement, place + 1, value.real);
+        break;
+    case RawValue::Kind::Text:
+        result =
+            sqlite3_bind_text64(m_statement, place + 1, value.bytes.constData(),
+                                sqlite3_uint64(value.bytes.size()), SQLITE_STATIC, SQLITE_UTF8);
+        break;
+    case RawValue::Kind::Blob:
+        result = sqlite3_bind_blob64(m_statement, place + 1, value.bytes.constData(),
+                                     sqlite3_uint64(value.bytes.size()), SQLITE_STATIC);
+        break;
+    }
+    if (result != SQLITE_OK)
+        m_engine.fail();
+}
+
+bool BulkStatement::step()
+{
+    const int result = sqlite3_step(m_statement);
+    if (result != SQLITE_ROW && result != SQLITE_DONE)
+        m_engine.fail();
+    return result == SQLITE_ROW;
+}
+
+void BulkStatement::reset()
+{
+    // What failed was told by step().
+    sqlite3_reset(m_statement);
+}
+
+int BulkStatement::columnCount() const
+{
+    return sqlite3_column_count(m_statement);
+}
+
+void BulkStatement::column(int place, RawValue &value) const
+{
+    const auto bytes = [&](const void *data) {
+        return QByteArrayView(static_cast<const char *>(data),
+                              sqlite3_column_bytes(m_statement, place));
+    };
+    switch (sqlite3_column_type(m_statement, place)) {
+    case SQLITE_INTEGER:
+        value.setInteger(sqlite3_column_int64(m_statement, place));
+        break;
+    case SQLITE_FLOAT:
+        value.setReal(sqlite3_column_double(m_statement, place));
+        break;
+    case SQLITE_TEXT: {
+        const QByteArrayView text = bytes(sqlite3_column_text(m_statement, place));
+        value.setBytes(RawValue::Kind::Text, text.data(), text.size());
+        break;
+    }
+    case SQLITE_BLOB: {
+        const QByteArrayView blob = bytes(sqlite3_column_blob(m_statement, place));
+        value.setBytes(RawValue::Kind::Blob, blob.data(), blob.size());
+        break;
+    }
+    default:
+        value.setNull();
+    }
+}

@@ -1,0 +1,149 @@
+#include "BulkStatement.h"
+#include "Database.h"
+#include "Dialect.h"
+#include "LegacyFile.h"
+#include "LegacyStamp.h"
+#include "Schema.h"
+#include "SqliteEngine.h"
+#include "TakeOverSteps.h"
+#include "TurkishText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Which of the two descriptions the file is completed with.
+const QList<TableDef> &descriptionFor(const QList<LegacyTable> &tables)
+{
+    for (const LegacyTable &table : tables) {
+        if (sameText(table.definition.name, u"SirketKayit"))
+            return registryTables();
+    }
+    return companyTables();
+}
+
+/// The fields by which the database could number this table's rows, the best
+/// one first: what this program relies on, then what the legacy file had.
+QStringList counterCandidates(const TableDef &table, const QList<TableDef> &description)
+{
+    QStringList names;
+    for (const TableDef &known : description) {
+        const FieldDef *counter = sameText(known.name, table.name) ? known.counter() : nullptr;
+        const FieldDef *field = counter != nullptr ? table.field(counter->name) : nullptr;
+        if (field != nullptr && field->type == FieldType::Long)
+            names.append(field->name);
+    }
+    const FieldDef *own = table.counter();
+    if (own != nullptr && !names.contains(own->name))
+        names.append(own->name);
+    return names;
+}
+
+TableDef withCounter(TableDef table, const QString &counterName)
+{
+    for (FieldDef &field : table.fields) {
+        field.counter = field.name == counterName;
+        if (field.counter)
+            field.defaultValue = {};
+    }
+    table.indexes.clear();
+    return table;
+}
+
+/// A counter's value that is missing or there already.
+bool counterFails(const RawValue &counter, BulkStatement &search)
+{
+    if (counter.kind != RawValue::Kind::Integer)
+        return true;
+    search.bind(0, counter);
+    const bool found = search.step();
+    search.reset();
+    return found;
+}
+
+/// Makes the table and copies its rows; false when a row's counter does not
+/// tell it from the others. Then nothing of the table is left.
+bool copyRows(LegacyFile &file, const LegacyTable &source, const TableDef &target, Database &db,
+              TakeOverSteps::Reporter &reporter)
+{
+    const SqliteEngine &engine = db.engine();
+    db.createTable(target);
+    qsizetype counterPlace = -1;
+    for (qsizetype i = 0; i < target.fields.size(); ++i) {
+        if (target.fields[i].counter)
+            counterPlace = i;
+    }
+    bool good = true;
+    {
+        const QString table = quotedName(target.name);
+        BulkStatement insert(engine,
+                             u"INSERT INTO %1 VALUES (%2)"_s.arg(
+                                 table, QStringList(target.fields.size(), u"?"_s).join(u',')));
+        BulkStatement search(engine, u"SELECT 1 FROM %1 WHERE rowid = ?"_s.arg(table));
+        LegacyRows rows = file.rows(source);
+        while (good && rows.next()) {
+            if (counterPlace >= 0 && counterFails(rows.value(counterPlace), search)) {
+                good = false;
+                break;
+            }
+            for (qsizetype i = 0; i < rows.fieldCount(); ++i)
+                insert.bind(int(i), rows.value(i));
+            insert.step();
+            insert.reset();
+            reporter.row(target.name);
+        }
+        if (good)
+            reporter.tableDone(target.name, rows.rowCount());
+    }
+    if (!good)
+        engine.run(u"DROP TABLE "_s + quotedName(target.name));
+    return good;
+}
+
+void copyTable(LegacyFile &file, const LegacyTable &source, const QList<TableDef> &description,
+               Database &db, TakeOverSteps::Reporter &reporter)
+{
+    for (const QString &counter : counterCandidates(source.definition, description)) {
+        if (copyRows(file, source, withCounter(source.definition, counter), db, reporter))
+            return;
+    }
+    // Rows count for more than a counter: without one they all fit.
+    copyRows(file, source, withCounter(source.definition, {}), db, reporter);
+}
+
+} // namespace
+
+void TakeOverSteps::copy(const QString &source, const QString &part, Reporter &reporter)
+{
+    const LegacyStamp stamp = stampOf(source);
+    LegacyFile file(source);
+    const QList<LegacyTable> tables = file.tables();
+    if (tables.isEmpty())
+        throw DatabaseError(u"Dosyada hiç tablo yok."_s);
+    qint64 total = 0;
+    for (const LegacyTable &table : tables)
+        total += table.declaredRows;
+    reporter.begin(total);
+
+    const std::unique_ptr<Database> db = Database::create(part);
+    const SqliteEngine &engine = db->engine();
+    // The file counts for nothing until it is whole, so a failure needs no
+    // journal on disk; the one commit still waits for the disk.
+    engine.run(u"PRAGMA journal_mode = MEMORY"_s);
+    engine.run(u"PRAGMA locking_mode = EXCLUSIVE"_s);
+    engine.run(u"PRAGMA cache_size = -16000"_s);
+    Transaction transaction(*db);
+    const QList<TableDef> &description = descriptionFor(tables);
+    for (const LegacyTable &table : tables)
+        copyTable(file, table, description, *db, reporter);
+    for (const LegacyTable &table : tables) {
+        for (const IndexDef &index : table.definition.indexes) {
+            reporter.alive(table.definition.name);
+            createIndexAsAllowed(*db, table.definition.name, index);
+        }
+    }
+    completeTables(*db, description);
+    writeStamp(*db, stamp);
+    db->setSchemaVersion(currentSchemaVersion);
+    transaction.commit();
+}

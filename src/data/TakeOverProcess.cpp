@@ -1,0 +1,62 @@
+#include "TakeOverProcess.h"
+
+#include "DatabaseError.h"
+#include "TakeOverSteps.h"
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <QCoreApplication>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Ends this process when the one that started it has ended: its end of the
+/// pipe closes then, and nobody would clear up behind us.
+void endWithStarter()
+{
+    std::thread([] {
+        while (std::getchar() != EOF) {
+        }
+        std::_Exit(EXIT_FAILURE);
+    }).detach();
+    // An interrupt from the keyboard reaches the starter too, which ends us.
+    std::signal(SIGINT, SIG_IGN);
+}
+
+void writeLine(const QByteArray &line)
+{
+    std::fwrite(line.constData(), 1, size_t(line.size()), stdout);
+    std::fputc('\n', stdout);
+    std::fflush(stdout);
+}
+
+int refuse(QString reason)
+{
+    writeLine("error " + reason.replace(u'\n', u' ').toUtf8());
+    return EXIT_FAILURE;
+}
+
+} // namespace
+
+std::optional<int> runTakeOverStep(int &argc, char **argv)
+{
+    const QString word = argc == 4 ? QString::fromLocal8Bit(argv[1]) : QString();
+    const bool copies = word == TakeOverSteps::copyWord();
+    if (!copies && word != TakeOverSteps::proveWord())
+        return {};
+    const QCoreApplication application(argc, argv);
+    const QStringList arguments = QCoreApplication::arguments();
+    endWithStarter();
+    TakeOverSteps::Reporter reporter(writeLine);
+    try {
+        (copies ? TakeOverSteps::copy : TakeOverSteps::prove)(arguments[2], arguments[3], reporter);
+        return EXIT_SUCCESS;
+    } catch (const DatabaseError &error) {
+        return refuse(error.text());
+    } catch (const std::exception &) {
+        return refuse(u"Dosya hasarlı: okunamıyor."_s);
+    }
+}

@@ -1,0 +1,73 @@
+#include "BulkStatement.h"
+#include "Database.h"
+#include "Dialect.h"
+#include "LegacyFile.h"
+#include "RowChecksum.h"
+#include "SqliteEngine.h"
+#include "TakeOverSteps.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+RowChecksum checksumOfSource(LegacyFile &file, const LegacyTable &table,
+                             TakeOverSteps::Reporter &reporter)
+{
+    RowChecksum checksum;
+    LegacyRows rows = file.rows(table);
+    while (rows.next()) {
+        for (qsizetype i = 0; i < rows.fieldCount(); ++i)
+            checksum.add(rows.value(i));
+        checksum.endRow();
+        reporter.row(table.definition.name);
+    }
+    return checksum;
+}
+
+RowChecksum checksumOfCopy(Database &db, const TableDef &table, TakeOverSteps::Reporter &reporter)
+{
+    QStringList fields;
+    for (const FieldDef &field : table.fields)
+        fields.append(quotedName(field.name));
+    RowChecksum checksum;
+    BulkStatement rows(db.engine(),
+                       u"SELECT %1 FROM %2"_s.arg(fields.join(u','), quotedName(table.name)));
+    RawValue value;
+    while (rows.step()) {
+        for (int i = 0; i < int(fields.size()); ++i) {
+            rows.column(i, value);
+            checksum.add(value);
+        }
+        checksum.endRow();
+        reporter.row(table.name);
+    }
+    return checksum;
+}
+
+} // namespace
+
+void TakeOverSteps::prove(const QString &source, const QString &part, Reporter &reporter)
+{
+    LegacyFile file(source);
+    const std::unique_ptr<Database> db = Database::open(part, Database::Access::ReadOnly);
+    const QList<LegacyTable> tables = file.tables();
+    qint64 total = 0;
+    for (const LegacyTable &table : tables)
+        total += 2 * table.declaredRows;
+    reporter.begin(total);
+    for (const LegacyTable &table : tables) {
+        const TableDef &definition = table.definition;
+        const RowChecksum expected = checksumOfSource(file, table, reporter);
+        const RowChecksum copied = checksumOfCopy(*db, definition, reporter);
+        if (expected.rowCount() != copied.rowCount()) {
+            throw DatabaseError(u"\"%1\" tablosunda kaynakta %2, aktarılanda %3 kayıt var."_s.arg(
+                definition.name, QString::number(expected.rowCount()),
+                QString::number(copied.rowCount())));
+        }
+        if (!(expected == copied)) {
+            throw DatabaseError(
+                u"\"%1\" tablosunun değerleri aktarılınca değişti; kayıtlarında saklanamayan bir "
+                "değer var."_s.arg(definition.name));
+        }
+    }
+}
