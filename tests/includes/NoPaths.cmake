@@ -1,0 +1,15 @@
+# Fails when a source includes a header by a path ("../data/Database.h",
+# <QtWidgets/QDialog>): a path finds headers that the library does not see.
+cmake_minimum_required(VERSION 3.25)
+get_filename_component(root ${CMAKE_CURRENT_LIST_DIR}/../.. ABSOLUTE)
+file(GLOB_RECURSE sources ${root}/src/*.h ${root}/src/*.cpp ${root}/demo/*.h ${root}/demo/*.cpp)
+list(LENGTH sources count)
+if(count LESS 50)
+  message(FATAL_ERROR "Only ${count} sources under ${root}")
+endif()
+foreach(source ${sources})
+  file(STRINGS ${source} includes REGEX "^ *# *include *(\".*/|<Qt[A-Za-z]*/)")
+  if(includes)
+    message(SEND_ERROR "${source}: ${includes}")
+  endif()
+endforeach()
