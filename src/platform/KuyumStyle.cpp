@@ -14,6 +14,15 @@ static constexpr int lowestControl = 34;
 
 KuyumStyle::KuyumStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
 
+static constexpr int textIndent = 4;
+
+/// An editor inside a grid cell takes the cell's size.
+static bool isInCell(const QWidget *widget)
+{
+    return widget != nullptr && widget->parentWidget() != nullptr &&
+           widget->parentWidget()->objectName() == "qt_scrollarea_viewport"_L1;
+}
+
 /// The button that Enter presses: filled with gold.
 static bool isDefaultButton(const QStyleOption *option)
 {
@@ -22,32 +31,44 @@ static bool isDefaultButton(const QStyleOption *option)
            button->state.testFlag(QStyle::State_Enabled);
 }
 
-void KuyumStyle::drawButtonPanel(const QStyleOption *option, QPainter *painter) const
+static void drawPanel(QPainter *painter, const QRect &rect, const QColor &fill, const QPen &edge)
+{
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(edge);
+    painter->setBrush(fill);
+    const double inset = edge.widthF() / 2;
+    painter->drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), corner, corner);
+    painter->restore();
+}
+
+static void drawLinePanel(const QStyleOption *option, QPainter *painter)
+{
+    const bool focused = option->state.testFlag(QStyle::State_HasFocus);
+    const QColor edge =
+        focused ? themeColors(option->palette).accent : option->palette.color(QPalette::Mid);
+    drawPanel(painter, option->rect, option->palette.color(QPalette::Base),
+              QPen(edge, focused ? 2 : 1));
+}
+
+static void drawButtonPanel(const QStyleOption *option, QPainter *painter)
 {
     const ThemeColors colors = themeColors(option->palette);
-    const bool enabled = option->state.testFlag(State_Enabled);
-    const bool pressed = option->state.testAnyFlags(State_Sunken | State_On);
-    const bool focused = enabled && option->state.testFlag(State_HasFocus);
+    const bool enabled = option->state.testFlag(QStyle::State_Enabled);
+    const bool pressed = option->state.testAnyFlags(QStyle::State_Sunken | QStyle::State_On);
+    const bool focused = enabled && option->state.testFlag(QStyle::State_HasFocus);
     const bool gold = isDefaultButton(option);
 
     QColor fill = gold ? colors.accent : option->palette.color(QPalette::Button);
     if (pressed)
         fill = colors.dark && !gold ? fill.lighter(140) : fill.darker(112);
-    else if (enabled && option->state.testFlag(State_MouseOver))
+    else if (enabled && option->state.testFlag(QStyle::State_MouseOver))
         fill = colors.dark ? fill.lighter(118) : fill.darker(gold ? 94 : 104);
     QColor edge = gold ? colors.accent.darker(115) : option->palette.color(QPalette::Mid);
     if (focused)
         edge = gold ? option->palette.color(QPalette::WindowText) : colors.accent;
 
-    const double width = focused ? 2 : 1;
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(edge, width));
-    painter->setBrush(fill);
-    const double inset = width / 2;
-    painter->drawRoundedRect(QRectF(option->rect).adjusted(inset, inset, -inset, -inset), corner,
-                             corner);
-    painter->restore();
+    drawPanel(painter, option->rect, fill, QPen(edge, focused ? 2 : 1));
 }
 
 void KuyumStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
@@ -59,6 +80,14 @@ void KuyumStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
         return;
     case PE_FrameDefaultButton:
         return;
+    case PE_PanelLineEdit: {
+        // Inside a list or a cell the frame is that of the list or the cell.
+        const auto *frame = qstyleoption_cast<const QStyleOptionFrame *>(option);
+        if (frame == nullptr || frame->lineWidth <= 0 || isInCell(widget))
+            break;
+        drawLinePanel(option, painter);
+        return;
+    }
     case PE_FrameFocusRect: {
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
@@ -69,8 +98,27 @@ void KuyumStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
         return;
     }
     default:
-        QProxyStyle::drawPrimitive(element, option, painter, widget);
+        break;
     }
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void KuyumStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
+                                    QPainter *painter, const QWidget *widget) const
+{
+    const auto *list = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    if (control != CC_ComboBox || list == nullptr || list->editable || isInCell(widget)) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        return;
+    }
+    QStyleOptionButton panel;
+    panel.QStyleOption::operator=(*option);
+    drawButtonPanel(&panel, painter);
+    QStyleOption arrow = *option;
+    arrow.rect = subControlRect(control, option, SC_ComboBoxArrow, widget);
+    const int inset = (arrow.rect.height() - 14) / 2;
+    arrow.rect.adjust(0, inset, 0, -inset);
+    drawPrimitive(PE_IndicatorArrowDown, &arrow, painter, widget);
 }
 
 void KuyumStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
@@ -118,10 +166,7 @@ QSize KuyumStyle::sizeFromContents(ContentsType type, const QStyleOption *option
                                    const QSize &contents, const QWidget *widget) const
 {
     QSize size = QProxyStyle::sizeFromContents(type, option, contents, widget);
-    // An editor inside a grid cell takes the cell's height.
-    const bool inCell = widget != nullptr && widget->parentWidget() != nullptr &&
-                        widget->parentWidget()->objectName() == "qt_scrollarea_viewport"_L1;
-    if (inCell)
+    if (isInCell(widget))
         return size;
     switch (type) {
     case CT_PushButton:
@@ -133,6 +178,24 @@ QSize KuyumStyle::sizeFromContents(ContentsType type, const QStyleOption *option
     default:
         return size;
     }
+}
+
+QRect KuyumStyle::subElementRect(SubElement element, const QStyleOption *option,
+                                 const QWidget *widget) const
+{
+    const QRect rect = QProxyStyle::subElementRect(element, option, widget);
+    if (element == SE_LineEditContents && !isInCell(widget))
+        return rect.adjusted(textIndent, 0, -textIndent, 0);
+    return rect;
+}
+
+QRect KuyumStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
+                                 SubControl part, const QWidget *widget) const
+{
+    const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
+    if (control == CC_ComboBox && part == SC_ComboBoxEditField && !isInCell(widget))
+        return rect.adjusted(textIndent, 0, 0, 0);
+    return rect;
 }
 
 int KuyumStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,

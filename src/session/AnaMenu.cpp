@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -37,6 +38,8 @@ AnaMenu::AnaMenu(Oturum &oturum, Messages &messages, MenuScreens screens)
     connect(m_panel, &MenuPanel::chosen, this, &AnaMenu::open);
     connectFixedButtons();
     showSession();
+    constexpr int titleBar = 40;
+    resize(size().boundedTo(screen()->availableSize() - QSize(0, titleBar)));
 }
 
 AnaMenu::~AnaMenu() = default;
@@ -44,6 +47,7 @@ AnaMenu::~AnaMenu() = default;
 void AnaMenu::showSession()
 {
     setWindowTitle(m_oturum.SirketAdi + u" -----> "_s + m_oturum.KullaniciAdi);
+    statusBar()->setContentsMargins(10, 2, 10, 2);
     statusBar()->addWidget(new QLabel(u"Kuyum  -  Altın takı sipariş ve üretim takibi  -  "
                                       "Ver : 2012.03"_s),
                            1);
@@ -57,6 +61,11 @@ void AnaMenu::showSession()
     const QDate date = m_oturum.CalismaTarihi;
     m_ui->user->setText(u"Kullanıcı: %1     Çalışma tarihi: %2, %3"_s.arg(
         m_oturum.KullaniciAdi, formatDate(date), QLocale().dayName(date.dayOfWeek())));
+
+    QPalette band = m_ui->side->palette();
+    band.setColor(QPalette::Window, band.color(QPalette::AlternateBase));
+    m_ui->side->setPalette(band);
+    m_ui->side->setAutoFillBackground(true);
 
     QPalette quiet = palette();
     quiet.setColor(QPalette::WindowText, themeColors(quiet).muted);
@@ -82,6 +91,7 @@ void AnaMenu::connectFixedButtons()
     connect(m_ui->Son_Cmd, &QPushButton::clicked, this, &QWidget::close);
     for (QPushButton *button : std::as_const(m_fixedButtons)) {
         button->setAutoDefault(true);
+        button->setFixedHeight(fontMetrics().height() + 13);
         button->installEventFilter(this);
     }
     connect(m_panel, &MenuPanel::leftEdge, this, [this] { focusFirst(m_fixedButtons); });
