@@ -34,5 +34,6 @@ void printLine(const QString &line);
 void printError(const QString &line);
 
 int aktarCommand(const QStringList &arguments);
+int fisCommand(const QStringList &arguments);
 int sorguCommand(const QStringList &arguments);
 int demoCommand(const QStringList &arguments);

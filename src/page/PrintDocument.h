@@ -14,6 +14,7 @@ struct PagePoint
 {
     Twips x;
     Twips y;
+    friend bool operator==(const PagePoint &, const PagePoint &) = default;
 };
 
 struct PageFont
@@ -60,11 +61,14 @@ struct PrintPage
 class PrintDocument
 {
 public:
-    /// The title names the print job and the PDF.
+    /// The title names the print job and the PDF. The paper is A4, upright,
+    /// unless told otherwise.
     explicit PrintDocument(const QString &title, Twips width = Twips::fromMillimetres(210),
                            Twips height = Twips::fromMillimetres(297));
 
+    /// Begins a page. What is put on a document without one begins the first.
     void newPage();
+    /// The font of the texts that follow, over page breaks too.
     void setFont(const PageFont &font) { m_font = font; }
     const PageFont &font() const { return m_font; }
     void text(PagePoint at, const QString &text);
@@ -78,6 +82,8 @@ public:
     const QList<PrintPage> &pages() const { return m_pages; }
 
 private:
+    void add(const PageItem &item);
+
     QString m_title;
     Twips m_width;
     Twips m_height;

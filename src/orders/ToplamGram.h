@@ -1,0 +1,19 @@
+#pragma once
+
+#include "Siparis.h"
+
+#include <functional>
+#include <optional>
+
+struct Oturum;
+
+/// Grams of one piece of a model under a product type (its short name);
+/// nothing when the model does not have that type.
+using GramBul = std::function<std::optional<double>(const QString &model, const QString &KisaAD)>;
+
+/// The order's gold: for each quantity grams x density x quantity, rounded to
+/// 2 decimals and then added up.
+double toplamGram(const Siparis &siparis, double yogunluk, const GramBul &gramBul);
+
+/// The same with density and grams from the database; 0 for an unknown karat.
+double toplamGram(Oturum &oturum, const Siparis &siparis);
