@@ -23,14 +23,14 @@ constexpr int linesPerPage = 44;
 
 // The header: the title in a cell of its own, beside it the order's data,
 // below them the column heading, and over the list the customer.
-constexpr Twips dataX = 2720_tw;
+constexpr Twips dataX = 2740_tw;
 constexpr Twips rightX = 8000_tw; ///< karat and hallmark
 constexpr Twips datesY = 350_tw;
 constexpr Twips noteY = 650_tw;
 constexpr Twips noteContinuedY = 850_tw;
 constexpr Twips headingY = 1150_tw;
 constexpr Twips headingAdvance = 200_tw;
-constexpr Twips customerY = 2200_tw;
+constexpr Twips customerY = 1900_tw;
 constexpr QStringView noteLabel = u"AÇIKLAMA       : ";
 constexpr QStringView customerLabel = u"MÜŞTERİ        : ";
 constexpr Twips frameLeft = 450_tw;
@@ -162,21 +162,29 @@ void PlainSlip::frame()
 {
     const Twips headingTop = headingY - 60_tw;
     const Twips headingBottom = headingY + headingAdvance * double(m_heading.size()) + 40_tw;
-    const Twips bottom = listAt.y - 60_tw;
-    for (const Twips y : {frameTop, headingTop, headingBottom, bottom})
-        m_document.line({frameLeft, y}, {frameRight, y});
-    for (const Twips x : {frameLeft, frameRight})
-        m_document.line({x, frameTop}, {x, bottom});
-    m_document.line({dataX - 30_tw, frameTop}, {dataX - 30_tw, headingTop});
+    const Twips bottom = listAt.y - 70_tw;
+    const Twips dataLeft = dataX - 40_tw;
+    const Twips rightLeft = rightX - 40_tw;
+    const Twips datesBottom = noteY - 60_tw;
+    const auto across = [&](Twips y, Twips from) { m_document.line({from, y}, {frameRight, y}); };
+    const auto down = [&](Twips x, Twips from, Twips to) { m_document.line({x, from}, {x, to}); };
 
-    const auto rule = [&](int column) {
-        const Twips x = listAt.x + charWidth * (column - 0.6);
-        m_document.line({x, headingTop}, {x, headingBottom});
+    for (const Twips y : {frameTop, headingTop, headingBottom, bottom})
+        across(y, frameLeft);
+    across(datesBottom, dataLeft);
+    for (const Twips x : {frameLeft, frameRight})
+        down(x, frameTop, bottom);
+    down(dataLeft, frameTop, headingTop);
+    down(rightLeft, frameTop, datesBottom);
+    down(rightLeft, headingBottom, bottom);
+
+    const auto columnRule = [&](int column) {
+        down(listAt.x + charWidth * (column - 0.6), headingTop, headingBottom);
     };
-    rule(FisSatirlari::colorColumn);
+    columnRule(FisSatirlari::colorColumn);
     for (int i = 0; i < qMin<int>(int(m_siparis.tipler.size()), FisSatirlari::typesPerLine); ++i)
-        rule(FisSatirlari::firstTypeHeading + FisSatirlari::typeWidth * i);
-    rule(FisSatirlari::noteColumn(m_siparis.tipler.size()));
+        columnRule(FisSatirlari::firstTypeHeading + FisSatirlari::typeWidth * i);
+    columnRule(FisSatirlari::noteColumn(m_siparis.tipler.size()));
 }
 
 /// Puts lines that belong together on the page, after closing it when they

@@ -1,5 +1,7 @@
 #include "FixedPitchText.h"
 
+using namespace Qt::StringLiterals;
+
 QString takeLine(QString &rest, qsizetype width, qsizetype lineWidth)
 {
     rest = rest.trimmed();
@@ -31,7 +33,7 @@ QStringList wrappedLines(const QString &text, qsizetype firstWidth, qsizetype wi
 
 QString onOneLine(QString text)
 {
-    text.replace(u"\r\n", u"\n");
+    text.replace(u"\r\n"_s, u"\n"_s);
     for (QChar &character : text) {
         if (character.category() == QChar::Other_Control ||
             character.category() == QChar::Separator_Line ||
