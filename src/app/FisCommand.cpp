@@ -1,6 +1,7 @@
 #include "CommandLine.h"
 
 #include "Oturum.h"
+#include "ReadableDatabase.h"
 #include "SiparisFisi.h"
 #include "SiparisStore.h"
 #include "ToplamGram.h"
@@ -73,8 +74,9 @@ Siparis findOrder(Oturum &oturum, qint32 Sipnum)
 int fisCommand(const QStringList &arguments)
 {
     const FisIstegi request = readRequest(arguments);
+    ReadableDatabase source = openForReading(request.database);
     Oturum oturum;
-    oturum.Veritabani = Database::open(request.database, Database::Access::ReadOnly);
+    oturum.Veritabani = std::move(source.db);
     const Siparis siparis = findOrder(oturum, request.Sipnum);
     writePdf(siparisFisi(siparis, request.kimlik, toplamGram(oturum, siparis)), request.pdf);
     return 0;

@@ -1,5 +1,8 @@
 #include "PrintDocument.h"
 
+#include <QBuffer>
+#include <QDir>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPainter>
@@ -90,12 +93,18 @@ private:
 
 [[noreturn]] void refusePdf(const QString &path, const QString &reason)
 {
-    throw std::runtime_error(u"PDF dosyası yazılamadı: %1 (%2)"_s.arg(path, reason).toStdString());
+    throw std::runtime_error(
+        u"PDF dosyası yazılamadı: %1\n%2"_s.arg(QDir::toNativeSeparators(path), reason)
+            .toStdString());
 }
 
-void paintPdf(QIODevice &device, const PrintDocument &document)
+/// In memory: the PDF writer does not tell when its device fails.
+QByteArray paintPdf(const PrintDocument &document)
 {
-    QPdfWriter writer(&device);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    QPdfWriter writer(&buffer);
     writer.setResolution(twipsPerInch);
     writer.setTitle(document.title());
     writer.setCreator(u"Kuyum"_s);
@@ -114,6 +123,8 @@ void paintPdf(QIODevice &device, const PrintDocument &document)
         first = false;
         paintPage(painter, page, twipsPerInch);
     }
+    painter.end();
+    return bytes;
 }
 
 } // namespace
@@ -184,10 +195,16 @@ void paintPage(QPainter &painter, const PrintPage &page, double dotsPerInch)
 
 void writePdf(const PrintDocument &document, const QString &path)
 {
+    const QFileInfo place(path);
+    if (place.isDir())
+        refusePdf(path, u"Bu bir klasör."_s);
+    if (!place.dir().exists())
+        refusePdf(path, u"Klasör bulunamadı."_s);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
-        refusePdf(path, file.errorString());
-    paintPdf(file, document);
-    if (!file.commit())
-        refusePdf(path, file.errorString());
+        refusePdf(path, u"Buraya yazılamıyor; dosya korunuyor olabilir."_s);
+    const QByteArray bytes = paintPdf(document);
+    // commit() does not notice when its last block finds no room; flush() does.
+    if (file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
+        refusePdf(path, u"Diske yazılamadı; disk dolu olabilir."_s);
 }
