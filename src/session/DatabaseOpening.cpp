@@ -1,7 +1,31 @@
 #include "DatabaseOpening.h"
 
-std::unique_ptr<Database> openTakenOver(QWidget *, Messages &, const QString &path,
+#include "LegacyPath.h"
+#include "Messages.h"
+#include "TakeOverWindow.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+std::unique_ptr<Database> openTakenOver(QWidget *parent, Messages &messages, const QString &path,
                                         DatabaseOpener open)
 {
-    return open(path);
+    std::unique_ptr<TakeOverWindow> window;
+    const OpenablePath openable = ensureTakenOver(path, [&](TakeOver &takeOver) {
+        window = std::make_unique<TakeOverWindow>(takeOver, parent);
+        window->show();
+    });
+    window.reset();
+
+    std::unique_ptr<Database> db = open(openable.path);
+    if (openable.legacyChanged) {
+        messages.say(parent,
+                     u"%1\n\nBu eski dosya aktarıldıktan sonra değiştirilmiş. O günden sonra eski "
+                     "programda girilenler burada görünmez; program aktarılmış dosya ile "
+                     "çalışmaya devam eder:\n\n%2"_s.arg(QDir::toNativeSeparators(path),
+                                                         QDir::toNativeSeparators(openable.path)),
+                     MessageIcon::Exclamation, u"Eski dosya değişmiş"_s);
+    }
+    return db;
 }

@@ -7,6 +7,7 @@
 #include "RegistryPaths.h"
 #include "RegistryStore.h"
 #include "Schema.h"
+#include "TakeOver.h"
 #include "Theme.h"
 #include "ui_Pass_Form.h"
 #include "UsersStore.h"
@@ -145,6 +146,9 @@ bool Pass_Form::openDatabase(const QString &path)
     try {
         m_oturum.Veritabani = openTakenOver(this, m_messages, path, openCompany);
         return true;
+    } catch (const TakeOverCancelled &cancelled) {
+        m_messages.say(this, cancelled.text(), MessageIcon::Information);
+        return false;
     } catch (const std::exception &error) {
         m_messages.say(this, m_oturum.DataYolu + u"  ,BULUNAMADI..."_s, MessageIcon::Information,
                        u"DATA YOLU HATASI"_s);

@@ -1,5 +1,6 @@
 #include "RegistryPaths.h"
 
+#include "LegacyPath.h"
 #include "TurkishText.h"
 
 #include <QFileInfo>
@@ -79,7 +80,9 @@ QString RegistryPaths::resolve(const QString &path) const
 
 QString RegistryPaths::resolveDatabase(const QString &path) const
 {
-    return resolve(path);
+    const QString named = resolve(path);
+    const QString taken = resolve(takenOverPath(path));
+    return QFileInfo::exists(taken) && taken != takenOverPath(named) ? taken : named;
 }
 
 QString RegistryPaths::defaultRegistryFile()

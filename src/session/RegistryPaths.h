@@ -15,8 +15,8 @@ public:
     /// spelled as they are on disk; the rest stays as written. A path of
     /// another drive or a share only has its slashes turned.
     QString resolve(const QString &path) const;
-    /// The same for a database file. Where only the file that a legacy one was
-    /// taken over into is left, it is that one.
+    /// The same for a database file; a file that it was taken over into is found
+    /// when its name differs from the legacy one's in case.
     QString resolveDatabase(const QString &path) const;
 
     /// Where the registry lies when nothing else is named: c:\database on

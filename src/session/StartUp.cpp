@@ -2,6 +2,7 @@
 
 #include "AnaMenu.h"
 #include "Guarded.h"
+#include "LegacyPath.h"
 #include "Oturum.h"
 #include "Pass_Form.h"
 
@@ -14,7 +15,7 @@ using namespace Qt::StringLiterals;
 /// over into.
 static bool registryExists(const QString &path)
 {
-    return QFileInfo::exists(path);
+    return QFileInfo::exists(path) || QFileInfo::exists(takenOverPath(path));
 }
 
 static bool logIn(const StartUp &start)
