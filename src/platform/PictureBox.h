@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QLabel>
+
+/// Shows a picture file as large as the box allows, or why it cannot be shown.
+class PictureBox : public QLabel
+{
+public:
+    explicit PictureBox(QWidget *parent = nullptr);
+
+    /// An empty path clears the box.
+    void showFile(const QString &path);
+    const QString &path() const { return m_path; }
+    QSize sizeHint() const override { return {280, 280}; }
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void load();
+
+    QString m_path;
+    QSize m_loadedFor;
+};
