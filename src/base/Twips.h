@@ -1,6 +1,8 @@
 #pragma once
 
+#ifndef Q_MOC_RUN // which cannot read it
 #include <compare>
+#endif
 
 /// A distance on paper: 1/1440 inch. Its own type, so that twips, pixels and
 /// points cannot be mixed up.

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "PrintDocument.h"
+
+#include <memory>
+#include <QStringList>
+
+class QPrinter;
+class QSettings;
+
+/// The installed printers, which of them is the current one, and what the user
+/// set for each. The settings outlive the program.
+class Printers
+{
+public:
+    explicit Printers(QSettings &settings);
+    virtual ~Printers();
+
+    virtual QStringList installed() const;
+    /// The system's default printer; empty when there is none.
+    virtual QString VarsayilanYazici() const;
+
+    /// Makes the printer of exactly that name the current one; no other name
+    /// changes anything.
+    void YaziciSec(const QString &name);
+    /// The printer chosen last, in this run or an earlier one, while it is
+    /// installed; else the default one, else the first; empty when there is none.
+    QString current() const;
+    /// Keeps the current printer for later runs.
+    void rememberCurrent();
+
+    /// How far pages are moved to the right and down on that printer, against
+    /// one that puts them off.
+    PagePoint offset(const QString &name) const;
+    void setOffset(const QString &name, PagePoint offset);
+
+    /// Prints on the current printer. Throws std::runtime_error with a Turkish
+    /// text when there is none or it fails.
+    void print(const PrintDocument &document) const;
+
+protected:
+    virtual std::unique_ptr<QPrinter> open(const QString &name) const;
+
+private:
+    QSettings &m_settings;
+    QString m_chosen;
+};
+
+/// Sets a printer up for a document: its paper, no margins, its title.
+void prepare(QPrinter &printer, const PrintDocument &document);

@@ -1,0 +1,189 @@
+#include "PrintPreview.h"
+#include "Printers.h"
+#include "ScriptedMessages.h"
+#include "TestRegistry.h"
+
+#include <QPrinter>
+#include <QSettings>
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int testPages = 3;
+
+PrintDocument threePages()
+{
+    PrintDocument document(u"Sipariş Fişi 7"_s);
+    for (int page = 1; page <= testPages; ++page) {
+        document.newPage();
+        document.setFont({u"Courier New Tur"_s, 12});
+        document.text({1440_tw, 1440_tw}, u"Sayfa %1"_s.arg(page));
+    }
+    return document;
+}
+
+/// Printers that put their paper into files.
+class FilePrinters : public Printers
+{
+public:
+    FilePrinters(QSettings &settings, const QStringList &names, const QString &folder)
+        : Printers(settings), m_names(names), m_folder(folder)
+    {
+    }
+    QStringList installed() const override { return m_names; }
+    QString VarsayilanYazici() const override { return m_names.value(1); }
+
+protected:
+    std::unique_ptr<QPrinter> open(const QString &name) const override
+    {
+        auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+        printer->setOutputFormat(QPrinter::PdfFormat);
+        printer->setOutputFileName(m_folder + u'/' + name + u".pdf"_s);
+        return printer;
+    }
+
+private:
+    QStringList m_names;
+    QString m_folder;
+};
+
+QString wordPosition(const QString &pdf, const QString &word)
+{
+    QProcess pdftotext;
+    pdftotext.start(u"pdftotext"_s, {u"-bbox"_s, pdf, u"-"_s});
+    pdftotext.waitForFinished();
+    const QString text = QString::fromUtf8(pdftotext.readAllStandardOutput());
+    const QRegularExpression place(u"xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\"[^>]*>%1<"_s.arg(word));
+    const QRegularExpressionMatch match = place.match(text);
+    return u"%1 %2"_s.arg(qRound(match.captured(1).toDouble()))
+        .arg(qRound(match.captured(2).toDouble()));
+}
+
+} // namespace
+
+class PrintPreviewTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init()
+    {
+        m_folder = std::make_unique<QTemporaryDir>();
+        m_settings =
+            std::make_unique<QSettings>(m_folder->filePath(u"ayar.ini"_s), QSettings::IniFormat);
+        m_messages = std::make_unique<ScriptedMessages>();
+    }
+
+    void pagesAreTurnedByKeys()
+    {
+        FilePrinters printers(*m_settings, {}, m_folder->path());
+        PrintPreview preview(threePages(), printers, *m_messages, nullptr);
+        open(preview);
+        QTest::keyClick(&preview, Qt::Key_PageDown);
+        QCOMPARE(preview.currentPage(), 2);
+        QTest::keyClick(&preview, Qt::Key_End, Qt::ControlModifier);
+        QTest::keyClick(&preview, Qt::Key_PageDown);
+        QCOMPARE(preview.currentPage(), testPages);
+        QCOMPARE(preview.findChild<QLabel *>(u"pageLabel"_s)->text(), u"Sayfa 3 / 3"_s);
+        QTest::keyClick(&preview, Qt::Key_PageUp);
+        QCOMPARE(preview.currentPage(), 2);
+        QTest::keyClick(&preview, Qt::Key_Escape);
+        QVERIFY(!preview.isVisible());
+    }
+
+    void savesAsPdfAndToldWhereItFails()
+    {
+        FilePrinters printers(*m_settings, {}, m_folder->path());
+        PrintPreview preview(threePages(), printers, *m_messages, nullptr);
+        QString path = m_folder->filePath(u"fiş.pdf"_s);
+        QString suggested;
+        preview.setPdfChooser([&](QWidget *, const QString &name) {
+            suggested = name;
+            return path;
+        });
+        open(preview);
+        m_messages->expect(u"PDF dosyası kaydedildi:\n"_s + QDir::toNativeSeparators(path));
+        QTest::keyClick(&preview, Qt::Key_S, Qt::ControlModifier);
+        QCOMPARE(suggested, u"Sipariş Fişi 7.pdf"_s);
+        QCOMPARE(wordPosition(path, u"3"_s), u"115 72"_s);
+
+        path = m_folder->filePath(u"yok/fiş.pdf"_s);
+        m_messages->expect({.text = u"PDF dosyası yazılamadı: %1\nKlasör bulunamadı."_s.arg(
+                                QDir::toNativeSeparators(path)),
+                            .title = u"HATA"_s,
+                            .icon = MessageIcon::Critical});
+        QTest::keyClick(&preview, Qt::Key_S, Qt::ControlModifier);
+        path.clear();
+        QTest::keyClick(&preview, Qt::Key_S, Qt::ControlModifier);
+        QVERIFY(preview.isVisible());
+        m_messages->verify();
+    }
+
+    void printsOnTheChosenPrinterWithItsOffset()
+    {
+        const QStringList names{u"Büro/1"_s, u"Atölye"_s, u"Depo"_s};
+        QDir(m_folder->path()).mkdir(u"Büro"_s);
+        FilePrinters printers(*m_settings, names, m_folder->path());
+        QCOMPARE(printers.current(), u"Atölye"_s);
+        printers.setOffset(u"Depo"_s, {Twips(720), Twips(-360)});
+        printers.setOffset(names[0], {Twips(1), Twips(2)});
+        {
+            PrintPreview preview(threePages(), printers, *m_messages, nullptr);
+            open(preview);
+            auto *list = preview.findChild<QComboBox *>(u"printerList"_s);
+            QCOMPARE(list->currentText(), u"Atölye"_s);
+            list->setFocus();
+            QTest::keyClick(list, Qt::Key_End);
+            QTest::keyClick(&preview, Qt::Key_P, Qt::ControlModifier);
+            QVERIFY(!preview.isVisible());
+        }
+        QCOMPARE(wordPosition(m_folder->filePath(u"Depo.pdf"_s), u"2"_s), u"151 54"_s);
+
+        // A later run finds the choice again, unless that printer has gone.
+        FilePrinters later(*m_settings, names, m_folder->path());
+        QCOMPARE(later.current(), u"Depo"_s);
+        QCOMPARE(later.offset(names[0]).y, Twips(2));
+        FilePrinters fewer(*m_settings, names.first(2), m_folder->path());
+        QCOMPARE(fewer.current(), u"Atölye"_s);
+        fewer.YaziciSec(u"büro/1"_s);
+        QCOMPARE(fewer.current(), u"Atölye"_s);
+        fewer.YaziciSec(u"Büro/1"_s);
+        QCOMPARE(fewer.current(), u"Büro/1"_s);
+    }
+
+    void aPrinterThatFailsOrIsMissingIsTold()
+    {
+        FilePrinters none(*m_settings, {}, m_folder->path());
+        PrintPreview preview(threePages(), none, *m_messages, nullptr);
+        open(preview);
+        m_messages->expect(u"Kurulu yazıcı bulunamadı. Belge PDF olarak kaydedilebilir."_s);
+        QTest::mouseClick(preview.findChild<QPushButton *>(u"printButton"_s), Qt::LeftButton);
+        QVERIFY(preview.isVisible());
+
+        FilePrinters broken(*m_settings, {u"Kopuk"_s}, m_folder->filePath(u"yok"_s));
+        PrintPreview second(threePages(), broken, *m_messages, nullptr);
+        open(second);
+        m_messages->expect(
+            u"\"Kopuk\" yazıcısına yazdırılamadı. Yazıcının açık, bağlı ve hazır olduğunu "
+            "denetleyin; belge PDF olarak da kaydedilebilir."_s);
+        QTest::keyClick(&second, Qt::Key_P, Qt::ControlModifier);
+        QVERIFY(second.isVisible());
+        m_messages->verify();
+    }
+
+private:
+    static void open(PrintPreview &preview)
+    {
+        preview.show();
+        QVERIFY(QTest::qWaitForWindowActive(&preview));
+    }
+
+    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<QSettings> m_settings;
+    std::unique_ptr<ScriptedMessages> m_messages;
+};
+
+KUYUM_TEST(PrintPreviewTest)
+#include "PrintPreviewTest.moc"
