@@ -1,0 +1,105 @@
+#include "EntryControls.h"
+#include "DateBox.h"
+#include "ScriptedMessages.h"
+#include "TestRegistry.h"
+
+#include <QtTest>
+
+using namespace Qt::StringLiterals;
+
+class EntryControlsTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void numericBox_data();
+    void numericBox();
+    void listSelection();
+    void rowMarks();
+    void dateBoxCompletesWhatIsADate();
+};
+
+void EntryControlsTest::numericBox_data()
+{
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QString>("kept");
+    QTest::addColumn<int>("refusals");
+    QTest::newRow("letter after digits") << u"12a"_s << u"12"_s << 1;
+    QTest::newRow("letter in front") << u"a5"_s << u"5"_s << 1;
+    QTest::newRow("lone point") << u"."_s << u"."_s << 0;
+    QTest::newRow("comma becomes a point") << u"3,25"_s << u"3.25"_s << 0;
+    QTest::newRow("second comma") << u"3,2,"_s << u"3.2"_s << 1;
+    QTest::newRow("many decimals") << u"0.123456789"_s << u"0.123456789"_s << 0;
+}
+
+void EntryControlsTest::numericBox()
+{
+    QFETCH(QString, keys);
+    QFETCH(int, refusals);
+    ScriptedMessages messages;
+    QLineEdit box;
+    keepNumeric(box, messages);
+    for (int i = 0; i < refusals; ++i)
+        messages.expect({.text = u"SAYISAL DEGER GIRIN..."_s, .icon = MessageIcon::Critical});
+    QTest::keyClicks(&box, keys);
+    messages.verify();
+    QTEST(box.text(), "kept");
+    QCOMPARE(box.cursorPosition(), box.text().size());
+}
+
+void EntryControlsTest::listSelection()
+{
+    QComboBox list;
+    list.addItem(u"admin"_s, 1);
+    list.addItem(u"Admin"_s, 12);
+    list.addItem(u"Admin"_s, 3);
+    list.addItem(u"boş"_s);
+    ComboSec(list, u"Admin"_s);
+    QCOMPARE(list.currentIndex(), 1);
+    ComboSec(list, u"ADMIN"_s);
+    QCOMPARE(list.currentIndex(), 1);
+    ComboSecNo(list, 3);
+    QCOMPARE(list.currentIndex(), 2);
+    ComboSecNo(list, 0); // no entry carries it; the last carries nothing
+    QCOMPARE(list.currentIndex(), 2);
+}
+
+void EntryControlsTest::rowMarks()
+{
+    QTableWidget grid(2, 3);
+    for (int column = 0; column < 3; ++column)
+        grid.setItem(1, column, new QTableWidgetItem(u"x"_s));
+    grid.setCurrentCell(1, 2);
+    SatirYaziRenk(grid, QColor(255, 0, 0));
+    QCOMPARE(grid.currentColumn(), 0);
+    SatirArkaRenk(grid, QColor(255, 255, 0));
+    for (int column = 0; column < 3; ++column) {
+        const QTableWidgetItem *cell = grid.item(1, column);
+        QCOMPARE(cell->foreground().color(), QColor(255, 0, 0));
+        QVERIFY(cell->font().bold());
+        QCOMPARE(cell->background().color(), QColor(255, 255, 0));
+    }
+    QVERIFY(grid.item(0, 0) == nullptr);
+}
+
+void EntryControlsTest::dateBoxCompletesWhatIsADate()
+{
+    QWidget window;
+    DateBox box(&window);
+    QLineEdit other(&window);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const QSignalSpy invalid(&box, &DateBox::leftInvalid);
+    box.setFocus();
+    QTest::keyClicks(&box, u"050924"_s);
+    other.setFocus();
+    QCOMPARE(box.text(), u"05.09.2024"_s);
+    box.setFocus();
+    QTest::keyClick(&box, Qt::Key_Delete);
+    other.setFocus();
+    QCOMPARE(invalid.count(), 1);
+    QVERIFY(!box.date().isValid());
+}
+
+KUYUM_TEST(EntryControlsTest)
+#include "EntryControlsTest.moc"

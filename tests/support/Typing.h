@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QtTest>
+
+/// Types a text into a widget, the Turkish letters too, which the keys of
+/// QTest do not have.
+inline void typeText(QWidget *widget, const QString &text)
+{
+    for (const QChar letter : text)
+        QTest::sendKeyEvent(QTest::Click, widget, Qt::Key_unknown, QString(letter), Qt::NoModifier);
+}
