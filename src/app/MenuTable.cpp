@@ -1,6 +1,8 @@
 #include "MenuTable.h"
 
-MenuScreens menuTable(Oturum &, Messages &)
+#include "ScreenServices.h"
+
+MenuScreens menuTable(ScreenServices &)
 {
     return {};
 }

@@ -2,9 +2,8 @@
 
 #include "MenuScreens.h"
 
-class Messages;
-struct Oturum;
+struct ScreenServices;
 
 /// The one table that binds the main menu's numbers to screens. Whoever adds a
-/// screen adds its row here.
-MenuScreens menuTable(Oturum &oturum, Messages &messages);
+/// screen adds its row here. The services must outlive the table.
+MenuScreens menuTable(ScreenServices &services);

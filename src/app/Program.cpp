@@ -8,6 +8,7 @@
 #include "MenuTable.h"
 #include "Oturum.h"
 #include "RegistryPaths.h"
+#include "ScreenServices.h"
 #include "SingleInstance.h"
 #include "StartUp.h"
 #include "Theme.h"
@@ -85,10 +86,11 @@ int runSession(QApplication &application, Messages &messages, const QString &reg
     const SingleInstance instance;
     Oturum oturum;
     oturum.kayitYolu = registry;
+    ScreenServices services(oturum, messages);
     const std::unique_ptr<AnaMenu> menu =
         startUp({.oturum = oturum,
                  .messages = messages,
-                 .screens = menuTable(oturum, messages),
+                 .screens = menuTable(services),
                  .programFolder = QCoreApplication::applicationDirPath()},
                 instance.otherCopyRuns());
     if (menu == nullptr)

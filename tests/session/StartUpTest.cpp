@@ -1,5 +1,6 @@
 #include "StartUp.h"
 #include "AnaMenu.h"
+#include "Schema.h"
 #include "ScriptedMessages.h"
 #include "SingleInstance.h"
 #include "TestCompanies.h"
@@ -21,6 +22,7 @@ private Q_SLOTS:
     void fromStartToMenuByKeys();
     void leavingTheLoginEndsTheProgram();
     void legacyFilesAreTakenOver();
+    void stoppedTakeOverLeavesNothing();
 
 private:
     std::unique_ptr<AnaMenu> start(Oturum &oturum, Messages &messages, bool otherCopy = false)
@@ -162,6 +164,40 @@ void StartUpTest::legacyFilesAreTakenOver()
          .icon = MessageIcon::Exclamation});
     whenLoginIsOpen(logIn);
     QVERIFY(start(oturum, messages) != nullptr);
+}
+
+void StartUpTest::stoppedTakeOverLeavesNothing()
+{
+    const QDir examples(qEnvironmentVariable("KUYUM_ORNEK"));
+    if (!examples.exists(u"atolye.mdb"_s))
+        QSKIP("the example files are not here");
+    const QTemporaryDir folder;
+    QVERIFY(QFile::copy(examples.filePath(u"atolye.mdb"_s), folder.filePath(u"bir.mdb"_s)));
+    const std::unique_ptr<Database> registry = createRegistry(folder.filePath(u"sirket.kuyum"_s));
+    addRow(*registry, u"SirketKayit"_s,
+           {{u"turkod"_s, u"048"_s},
+            {u"Srkkod"_s, 1},
+            {u"Srkadi"_s, u"Bir"_s},
+            {u"DataYolu"_s, u"c:\\database\\BIR.MDB"_s}});
+
+    ScriptedMessages messages;
+    Oturum oturum;
+    oturum.kayitYolu = folder.filePath(u"sirket.kuyum"_s);
+    const QStringList before = QDir(folder.path()).entryList(QDir::Files);
+    messages.expect(u"Aktarma iptal edildi."_s);
+    QTimer stop;
+    connect(&stop, &QTimer::timeout, this, [] {
+        QWidget *window = QApplication::activeModalWidget();
+        if (window != nullptr && window->objectName() == "TakeOverWindow"_L1)
+            QTest::keyClick(window, Qt::Key_Escape);
+    });
+    stop.start(0);
+    whenLoginIsOpen([&](QWidget &login) {
+        QCOMPARE(login.findChild<QComboBox *>(u"Kullanici"_s)->count(), 0);
+        QTest::keyClick(&login, Qt::Key_Escape);
+    });
+    QVERIFY(start(oturum, messages) == nullptr);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), before);
 }
 
 KUYUM_TEST(StartUpTest)

@@ -1,0 +1,15 @@
+#include "ScreenServices.h"
+
+#include "Liste_Combo.h"
+
+using namespace Qt::StringLiterals;
+
+ScreenServices::ScreenServices(Oturum &oturum, Messages &messages)
+    : oturum(oturum),
+      messages(messages),
+      openList(lookupOpener(oturum, messages)),
+      settings(u"Kuyum"_s, u"kuyum"_s),
+      printers(settings),
+      viewer(printers, messages)
+{
+}
