@@ -23,5 +23,5 @@ fi
 say "There is no display, so the program does its main job without one"
 order=$($kuyum sorgu $demo/atolye.kuyum "Select Max(Sipnum) as Sonuncu From SiparisB" | tail -n 1)
 slip=demo-data/siparis-$order.pdf
-$kuyum fis $demo/atolye.kuyum "$order" --pdf "$slip" --resim $demo/resim
+$kuyum fis $demo/atolye.kuyum "$order" --pdf "$slip"
 echo "The slip of order $order: $PWD/$slip"
