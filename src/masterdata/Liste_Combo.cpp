@@ -2,6 +2,7 @@
 
 #include "Guarded.h"
 #include "HelpFile.h"
+#include "ListCellDelegate.h"
 #include "LookupModel.h"
 #include "Numbers.h"
 #include "Oturum.h"
@@ -9,42 +10,15 @@
 #include "Theme.h"
 #include "ui_Liste_Combo.h"
 
+#include <numeric>
 #include <QHeaderView>
 #include <QKeyEvent>
-#include <QPainter>
 #include <QScreen>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Frames the current cell: F12 and sorting go by its column, which the
-/// highlighted row alone does not show.
-class CellDelegate : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    void paint(QPainter *painter, const QStyleOptionViewItem &option,
-               const QModelIndex &index) const override
-    {
-        QStyleOptionViewItem plain = option;
-        plain.state.setFlag(QStyle::State_HasFocus, false);
-        QStyledItemDelegate::paint(painter, plain, index);
-        const auto *grid = qobject_cast<const QAbstractItemView *>(option.widget);
-        if (grid == nullptr || grid->currentIndex() != index)
-            return;
-        painter->setPen(QPen(option.palette.color(QPalette::HighlightedText), 1, Qt::DotLine));
-        painter->drawRect(option.rect.adjusted(2, 2, -3, -3));
-    }
-
-    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override
-    {
-        return QStyledItemDelegate::sizeHint(option, index) + QSize(8, 8);
-    }
-};
 
 bool isPlainTyping(Qt::KeyboardModifiers modifiers)
 {
@@ -83,7 +57,6 @@ Liste_Combo::Liste_Combo(Oturum &oturum, Messages &messages, const LookupRequest
             [this] { guarded(m_messages, this, [this] { showPicture(); }); });
 
     m_model->open(openLookup(oturum, m_list, request.ListeFiltre));
-    showColumns();
     setUpSize();
     m_ui->Rapor->setFocus();
 }
@@ -97,12 +70,12 @@ void Liste_Combo::setUpGrid()
     font.setPointSize(m_list.fontPoints);
     grid->setFont(font);
     grid->setModel(m_model);
-    grid->setItemDelegate(new CellDelegate(grid));
+    grid->setItemDelegate(new ListCellDelegate(grid));
     grid->installEventFilter(this);
     m_ui->Arama->installEventFilter(this);
 
     QHeaderView *rows = grid->verticalHeader();
-    rows->setDefaultSectionSize(QFontMetrics(font).height() + 8);
+    rows->setDefaultSectionSize(QFontMetrics(font).height() + ListCellDelegate::lineSpace);
     // Advice runs over several lines; all other rows are one line high, so a
     // long list need not measure them.
     const bool lines = m_list.source == LookupSource::Help;
@@ -114,36 +87,67 @@ void Liste_Combo::setUpGrid()
     connect(headings, &QHeaderView::sectionClicked, this, &Liste_Combo::sortBy);
     connect(grid, &QTableView::doubleClicked, this, &Liste_Combo::take);
     connect(grid->selectionModel(), &QItemSelectionModel::currentChanged, this,
-            [this] { m_pictureTimer.start(0); });
+            [this](const QModelIndex &current) {
+                if (current.isValid())
+                    m_column = current.column();
+                m_pictureTimer.start(0);
+            });
 }
 
-void Liste_Combo::showColumns()
+/// What a column's heading and its first rows take.
+int Liste_Combo::neededWidth(int column) const
+{
+    const QFontMetrics metrics(m_ui->Rapor->font());
+    int needed = metrics.horizontalAdvance(m_model->columns()[column].heading);
+    for (int row = 0; row < qMin(m_model->rowCount(), 50); ++row) {
+        const QString text = m_model->index(row, column).data().toString();
+        needed = qMax(needed, metrics.horizontalAdvance(text));
+    }
+    return needed + 2 * ListCellDelegate::padding + 2;
+}
+
+/// A column has its own width; where the system's font is a wide one, what is
+/// needed, but not more than half as much again; and where the room is narrow,
+/// no more than is needed.
+void Liste_Combo::showColumns(int room)
 {
     const QList<LookupColumn> &columns = m_model->columns();
+    QList<int> widths;
+    QList<int> needed;
     for (int i = 0; i < columns.size(); ++i) {
-        m_ui->Rapor->setColumnHidden(i, columns[i].width == 0_tw);
-        m_ui->Rapor->setColumnWidth(i, qRound(columns[i].width.pixels(logicalDpiX())));
+        const int own = qRound(columns[i].width.pixels(logicalDpiX()));
+        needed.append(own == 0 ? 0 : neededWidth(i));
+        widths.append(qBound(own, needed.last(), own * 3 / 2));
     }
-    m_ui->Rapor->horizontalHeader()->setSortIndicatorShown(false);
+    const bool narrow = std::accumulate(widths.begin(), widths.end(), 0) > room;
+    QHeaderView *headings = m_ui->Rapor->horizontalHeader();
+    for (int i = 0; i < columns.size(); ++i) {
+        m_ui->Rapor->setColumnHidden(i, widths[i] == 0);
+        m_ui->Rapor->setColumnWidth(i, narrow ? qMin(widths[i], needed[i]) : widths[i]);
+    }
+    headings->setSortIndicatorShown(false);
+    headings->setStretchLastSection(!columns.isEmpty() &&
+                                    columns.last().alignment != Qt::AlignRight);
 }
 
 /// Wide enough for all columns and the picture, as far as the screen allows.
 void Liste_Combo::setUpSize()
 {
-    double width = 0;
-    for (const LookupColumn &column : m_model->columns())
-        width += column.width.pixels(logicalDpiX());
-    const int grid = int(width) + 2 * m_ui->Rapor->frameWidth() +
-                     m_ui->Rapor->verticalScrollBar()->sizeHint().width() + 4;
-    const int picture = m_list.picture == LookupPicture::None
-                            ? 0
-                            : m_ui->Resim->sizeHint().width() + m_ui->splitter->handleWidth();
+    const bool pictured = m_list.picture != LookupPicture::None;
     const QMargins margins = m_ui->layout->contentsMargins();
     const QSize room = screen()->availableSize() - QSize(40, 60);
-    resize(QSize(grid + picture + margins.left() + margins.right(), 620)
-               .expandedTo(QSize(520, 0))
-               .boundedTo(room));
-    m_ui->splitter->setSizes({grid, picture});
+    const int besides = margins.left() + margins.right() + 2 * m_ui->Rapor->frameWidth() +
+                        m_ui->Rapor->verticalScrollBar()->sizeHint().width() +
+                        (pictured ? m_ui->splitter->handleWidth() : 0) + 4;
+    const int leastPicture = pictured ? m_ui->Resim->minimumWidth() : 0;
+    showColumns(room.width() - besides - leastPicture);
+
+    const int grid = m_ui->Rapor->horizontalHeader()->length();
+    const int picture = pictured ? qBound(leastPicture, room.width() - besides - grid,
+                                          m_ui->Resim->sizeHint().width())
+                                 : 0;
+    resize(QSize(grid + picture + besides, 620).expandedTo(QSize(440, 0)).boundedTo(room));
+    m_ui->splitter->setSizes({width() - picture - besides, picture});
     m_ui->splitter->setStretchFactor(0, 1);
     m_ui->splitter->setStretchFactor(1, 1);
 }
@@ -172,7 +176,7 @@ bool Liste_Combo::gridKey(QKeyEvent *event)
         reject();
         return true;
     case Qt::Key_F9:
-        sortBy(qMax(0, m_ui->Rapor->currentIndex().column()));
+        sortBy(m_column);
         return true;
     case Qt::Key_F11:
         if (orders)
@@ -267,11 +271,9 @@ void Liste_Combo::narrowOrders()
 void Liste_Combo::rebindOrders(const QString &condition)
 {
     guarded(m_messages, this, [&] {
-        const int column = qMax(0, m_ui->Rapor->currentIndex().column());
         m_ui->Arama->clear();
         m_model->open(openOrders(m_oturum, condition));
         m_ui->Rapor->horizontalHeader()->setSortIndicatorShown(false);
-        m_ui->Rapor->setCurrentIndex(m_model->index(0, column));
     });
 }
 
@@ -295,7 +297,7 @@ void Liste_Combo::highlightFirst()
 {
     QTableView *grid = m_ui->Rapor;
     if (!grid->currentIndex().isValid() && m_model->rowCount() > 0)
-        grid->setCurrentIndex(m_model->index(0, 0));
+        grid->setCurrentIndex(m_model->index(0, m_column));
     m_pictureTimer.start(0);
 }
 

@@ -35,8 +35,9 @@ protected:
 
 private:
     void setUpGrid();
+    int neededWidth(int column) const;
+    void showColumns(int room);
     void setUpSize();
-    void showColumns();
     bool gridKey(QKeyEvent *event);
     bool searchKeyPressed(QKeyEvent *event);
     bool typedKey(const QKeyEvent *event);
@@ -55,6 +56,7 @@ private:
     const LookupList &m_list;
     std::unique_ptr<Ui::Liste_Combo> m_ui;
     LookupModel *m_model;
+    int m_column = 0; ///< of the current cell, kept while rows come and go
     QTimer m_pictureTimer;
     LookupAnswer m_answer;
 };

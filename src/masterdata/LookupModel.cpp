@@ -279,8 +279,11 @@ QVariant LookupModel::headerData(int section, Qt::Orientation orientation, int r
         return {};
     if (role == Qt::DisplayRole)
         return m_columns[section].heading;
-    if (role == Qt::TextAlignmentRole)
-        return int(m_columns[section].alignment | Qt::AlignVCenter);
+    if (role == Qt::TextAlignmentRole) {
+        // At the right end it would run into the next one.
+        const bool right = m_columns[section].alignment == Qt::AlignRight;
+        return int((right ? Qt::AlignHCenter : m_columns[section].alignment) | Qt::AlignVCenter);
+    }
     return {};
 }
 

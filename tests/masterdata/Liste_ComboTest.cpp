@@ -117,6 +117,8 @@ private Q_SLOTS:
         m_grid->setCurrentIndex(m_grid->model()->index(0, 1));
         QTest::keyClick(m_grid, Qt::Key_F9);
         QTRY_COMPARE(column(1), (QStringList{u"10"_s, u"11"_s, u"12"_s, u"13"_s}));
+        QTest::keyClick(m_grid, Qt::Key_F9);
+        QTRY_COMPARE(column(1), (QStringList{u"13"_s, u"12"_s, u"11"_s, u"10"_s}));
     }
 
     void narrowsOrdersByTheCurrentCell()

@@ -1,0 +1,40 @@
+#include "ListCellDelegate.h"
+
+#include <QAbstractItemView>
+#include <QPainter>
+
+void ListCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
+                             const QModelIndex &index) const
+{
+    QStyleOptionViewItem cell = option;
+    initStyleOption(&cell, index);
+    const QString text = cell.text;
+    cell.text.clear();
+    cell.state.setFlag(QStyle::State_HasFocus, false);
+    const QStyle *style = option.widget->style();
+    style->drawControl(QStyle::CE_ItemViewItem, &cell, painter, option.widget);
+
+    const bool selected = option.state.testFlag(QStyle::State_Selected);
+    const QPalette::ColorRole role = selected ? QPalette::HighlightedText : QPalette::Text;
+    const QRect room = cell.rect.adjusted(padding, 0, -padding, 0);
+    const bool wraps = cell.features.testFlag(QStyleOptionViewItem::WrapText);
+    const int flags = int(cell.displayAlignment) | (wraps ? Qt::TextWordWrap : 0);
+    painter->setFont(cell.font);
+    style->drawItemText(
+        painter, room, flags, cell.palette, true,
+        wraps ? text : cell.fontMetrics.elidedText(text, Qt::ElideRight, room.width()), role);
+
+    const auto *grid = qobject_cast<const QAbstractItemView *>(option.widget);
+    if (grid == nullptr || grid->currentIndex() != index)
+        return;
+    painter->setPen(QPen(option.palette.color(role), 1, Qt::DotLine));
+    painter->drawRect(option.rect.adjusted(2, 2, -3, -3));
+}
+
+QSize ListCellDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
+    const QRect room(0, 0, option.rect.width() - 2 * padding, 0);
+    const QRect needed =
+        option.fontMetrics.boundingRect(room, Qt::TextWordWrap, index.data().toString());
+    return needed.size() + QSize(2 * padding, lineSpace);
+}
