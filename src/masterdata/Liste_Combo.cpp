@@ -15,6 +15,7 @@
 #include <QKeyEvent>
 #include <QScreen>
 #include <QScrollBar>
+#include <QtMath>
 
 using namespace Qt::StringLiterals;
 
@@ -107,24 +108,27 @@ int Liste_Combo::neededWidth(int column) const
 }
 
 /// A column has its own width; where the system's font is a wide one, what is
-/// needed, but not more than half as much again; and where the room is narrow,
-/// no more than is needed.
+/// needed, but not more than half as much again. What is too much for the room
+/// is taken from the columns that do not need all they have.
 void Liste_Combo::showColumns(int room)
 {
     const QList<LookupColumn> &columns = m_model->columns();
     QList<int> widths;
-    QList<int> needed;
+    QList<int> spare;
     for (int i = 0; i < columns.size(); ++i) {
         const int own = qRound(columns[i].width.pixels(logicalDpiX()));
-        needed.append(own == 0 ? 0 : neededWidth(i));
-        widths.append(qBound(own, needed.last(), own * 3 / 2));
+        const int needed = own == 0 ? 0 : neededWidth(i);
+        widths.append(qBound(own, needed, own * 3 / 2));
+        spare.append(qMax(0, widths.last() - needed));
     }
-    const bool narrow = std::accumulate(widths.begin(), widths.end(), 0) > room;
-    QHeaderView *headings = m_ui->Rapor->horizontalHeader();
+    const int missing = std::accumulate(widths.begin(), widths.end(), -room);
+    const int spared = std::accumulate(spare.begin(), spare.end(), 0);
+    const double share = spared == 0 ? 0 : qBound(0.0, double(missing) / spared, 1.0);
     for (int i = 0; i < columns.size(); ++i) {
         m_ui->Rapor->setColumnHidden(i, widths[i] == 0);
-        m_ui->Rapor->setColumnWidth(i, narrow ? qMin(widths[i], needed[i]) : widths[i]);
+        m_ui->Rapor->setColumnWidth(i, widths[i] - qCeil(share * spare[i]));
     }
+    QHeaderView *headings = m_ui->Rapor->horizontalHeader();
     headings->setSortIndicatorShown(false);
     headings->setStretchLastSection(!columns.isEmpty() &&
                                     columns.last().alignment != Qt::AlignRight);
