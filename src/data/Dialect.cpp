@@ -1,153 +1,13 @@
 #include "Dialect.h"
 
-#include "DatabaseError.h"
 #include "Dates.h"
+#include "SqlTokens.h"
 
-#include <array>
-#include <QList>
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-enum class Kind { Word, Name, Text, Number, Date, Symbol };
-
-struct Token
-{
-    Kind kind;
-    QString text; ///< a name without brackets, a text without its quotes
-};
-
-[[noreturn]] void refuse(const QString &why, QStringView sql)
-{
-    throw DatabaseError(u"%1: %2"_s.arg(why, sql.toString()));
-}
-
-bool isWordStart(QChar c)
-{
-    return c.isLetter() || c == u'_';
-}
-
-/// Words that keep their meaning; every other word is a name.
-bool isKeyword(QStringView word)
-{
-    static const QStringList keywords = {
-        u"SELECT"_s, u"FROM"_s,   u"WHERE"_s, u"GROUP"_s, u"BY"_s,     u"ORDER"_s,  u"HAVING"_s,
-        u"INNER"_s,  u"LEFT"_s,   u"RIGHT"_s, u"OUTER"_s, u"JOIN"_s,   u"ON"_s,     u"AND"_s,
-        u"OR"_s,     u"NOT"_s,    u"IN"_s,    u"AS"_s,    u"ASC"_s,    u"DESC"_s,   u"TOP"_s,
-        u"IS"_s,     u"NULL"_s,   u"LIKE"_s,  u"UNION"_s, u"ALL"_s,    u"EXISTS"_s, u"BETWEEN"_s,
-        u"DELETE"_s, u"UPDATE"_s, u"SET"_s,   u"INTO"_s,  u"INSERT"_s, u"VALUES"_s, u"DISTINCT"_s,
-        u"TRUE"_s,   u"FALSE"_s};
-    return keywords.contains(word, Qt::CaseInsensitive);
-}
-
-bool isWord(const Token &token, QLatin1StringView word)
-{
-    return token.kind == Kind::Word && token.text.compare(word, Qt::CaseInsensitive) == 0;
-}
-
-bool isSymbol(const Token &token, QChar symbol)
-{
-    return token.kind == Kind::Symbol && token.text == symbol;
-}
-
-class Tokenizer
-{
-public:
-    explicit Tokenizer(QStringView sql) : m_sql(sql) {}
-
-    QList<Token> tokens()
-    {
-        QList<Token> result;
-        for (skipBlanks(); m_at < m_sql.size(); skipBlanks()) {
-            const Token token = next();
-            if (isSymbol(token, u';')) {
-                skipBlanks();
-                if (m_at < m_sql.size())
-                    refuse(u"Birden fazla SQL ifadesi"_s, m_sql);
-                break;
-            }
-            result.append(token);
-        }
-        return result;
-    }
-
-private:
-    void skipBlanks()
-    {
-        while (m_at < m_sql.size() && m_sql[m_at].isSpace())
-            ++m_at;
-    }
-
-    Token next()
-    {
-        const QChar c = m_sql[m_at];
-        if (isWordStart(c))
-            return word();
-        if (c == u'[')
-            return {Kind::Name, delimited(u']')};
-        if (c == u'\'' || c == u'"')
-            return {Kind::Text, delimited(c)};
-        if (c == u'#')
-            return {Kind::Date, delimited(c)};
-        const bool pointNumber = c == u'.' && m_at + 1 < m_sql.size() && m_sql[m_at + 1].isDigit();
-        if (c.isDigit() || pointNumber)
-            return number();
-        static const std::array<QStringView, 4> pairs = {u"<>", u"<=", u">=", u"!="};
-        for (const QStringView pair : pairs) {
-            if (m_sql.sliced(m_at).startsWith(pair)) {
-                m_at += 2;
-                return {Kind::Symbol, pair.toString()};
-            }
-        }
-        ++m_at;
-        return {Kind::Symbol, QString(c)};
-    }
-
-    Token word()
-    {
-        const qsizetype start = m_at;
-        while (m_at < m_sql.size() && (isWordStart(m_sql[m_at]) || m_sql[m_at].isDigit()))
-            ++m_at;
-        const QString text = m_sql.sliced(start, m_at - start).toString();
-        const bool qualified = start > 0 && m_sql[start - 1] == u'.';
-        return {isKeyword(text) && !qualified ? Kind::Word : Kind::Name, text};
-    }
-
-    Token number()
-    {
-        const qsizetype start = m_at;
-        while (m_at < m_sql.size() && (m_sql[m_at].isDigit() || m_sql[m_at] == u'.'))
-            ++m_at;
-        if (m_at < m_sql.size() && isWordStart(m_sql[m_at]))
-            refuse(u"Sayıdan sonra harf"_s, m_sql);
-        return {Kind::Number, m_sql.sliced(start, m_at - start).toString()};
-    }
-
-    /// The text up to the closing mark; a doubled mark stands for itself.
-    QString delimited(QChar end)
-    {
-        QString text;
-        for (++m_at; m_at < m_sql.size(); ++m_at) {
-            if (m_sql[m_at] != end) {
-                text += m_sql[m_at];
-                continue;
-            }
-            const bool doubled = end != u']' && m_at + 1 < m_sql.size() && m_sql[m_at + 1] == end;
-            if (!doubled) {
-                ++m_at;
-                return text;
-            }
-            text += end;
-            ++m_at;
-        }
-        refuse(u"Kapanmamış metin ya da ad"_s, m_sql);
-    }
-
-    QStringView m_sql;
-    qsizetype m_at = 0;
-};
 
 /// Our names of the functions whose names or results differ in SQLite.
 QString functionName(const QString &name)
@@ -174,14 +34,14 @@ bool givesText(const QString &function)
 class Translator
 {
 public:
-    explicit Translator(QStringView sql) : m_sql(sql), m_tokens(Tokenizer(sql).tokens()) {}
+    explicit Translator(QStringView sql) : m_sql(sql), m_tokens(sqlTokens(sql)) {}
 
     TranslatedSql translate()
     {
         if (m_tokens.isEmpty())
-            refuse(u"Boş SQL ifadesi"_s, m_sql);
+            refuseSql(u"Boş SQL ifadesi"_s, m_sql);
         TranslatedSql result;
-        result.isSelect = isWord(m_tokens.first(), "SELECT"_L1);
+        result.isSelect = m_tokens.first().isWord("SELECT"_L1);
         if (result.isSelect)
             result.editableTable = singleTable();
         m_rowNumberOf = result.editableTable;
@@ -190,7 +50,7 @@ public:
             one();
         endScope();
         if (!m_scopes.isEmpty())
-            refuse(u"Kapanmamış parantez"_s, m_sql);
+            refuseSql(u"Kapanmamış parantez"_s, m_sql);
         result.text = m_out.trimmed();
         return result;
     }
@@ -203,7 +63,7 @@ private:
         QString after; ///< written behind the closing bracket
     };
 
-    const Token *peek(qsizetype ahead = 1) const
+    const SqlToken *peek(qsizetype ahead = 1) const
     {
         return m_at + ahead < m_tokens.size() ? &m_tokens[m_at + ahead] : nullptr;
     }
@@ -219,59 +79,59 @@ private:
 
     void one()
     {
-        const Token &token = m_tokens[m_at];
+        const SqlToken &token = m_tokens[m_at];
         switch (token.kind) {
-        case Kind::Word:
+        case SqlToken::Kind::Word:
             keyword(token);
             return;
-        case Kind::Name:
+        case SqlToken::Kind::Name:
             name(token);
             return;
-        case Kind::Text:
+        case SqlToken::Kind::Text:
             write(u'\'' + QString(token.text).replace(u'\'', u"''"_s) + u'\'');
             break;
-        case Kind::Number:
+        case SqlToken::Kind::Number:
             write(token.text);
             break;
-        case Kind::Date:
+        case SqlToken::Kind::Date:
             write(u'\'' + literalDate(token.text) + u'\'');
             break;
-        case Kind::Symbol:
+        case SqlToken::Kind::Symbol:
             symbol(token);
             break;
         }
         ++m_at;
     }
 
-    void keyword(const Token &token)
+    void keyword(const SqlToken &token)
     {
-        const Token *following = peek();
-        if (isWord(token, "LEFT"_L1) || isWord(token, "RIGHT"_L1)) {
-            if (following != nullptr && isSymbol(*following, u'(')) {
+        const SqlToken *following = peek();
+        if (token.isWord("LEFT"_L1) || token.isWord("RIGHT"_L1)) {
+            if (following != nullptr && following->isSymbol(u'(')) {
                 function(token.text);
                 return;
             }
         }
         ++m_at;
-        if (isWord(token, "TOP"_L1)) {
-            if (following == nullptr || following->kind != Kind::Number)
-                refuse(u"Top sayısı eksik"_s, m_sql);
+        if (token.isWord("TOP"_L1)) {
+            if (following == nullptr || following->kind != SqlToken::Kind::Number)
+                refuseSql(u"Top sayısı eksik"_s, m_sql);
             m_scopes.last().limit = following->text;
             ++m_at;
             return;
         }
-        if (isWord(token, "FROM"_L1) && m_scopes.size() == 1 && !m_rowNumberOf.isEmpty())
+        if (token.isWord("FROM"_L1) && m_scopes.size() == 1 && !m_rowNumberOf.isEmpty())
             write(u", %1._rowid_"_s.arg(quotedName(m_rowNumberOf)));
         write(token.text);
-        if (isWord(token, "DELETE"_L1) && following != nullptr && isSymbol(*following, u'*'))
+        if (token.isWord("DELETE"_L1) && following != nullptr && following->isSymbol(u'*'))
             ++m_at;
     }
 
-    void name(const Token &token)
+    void name(const SqlToken &token)
     {
-        const Token *following = peek();
-        if (following != nullptr && isSymbol(*following, u'(') &&
-            !(m_at > 0 && isWord(m_tokens[m_at - 1], "INTO"_L1))) {
+        const SqlToken *following = peek();
+        if (following != nullptr && following->isSymbol(u'(') &&
+            !(m_at > 0 && m_tokens[m_at - 1].isWord("INTO"_L1))) {
             function(token.text);
             return;
         }
@@ -296,22 +156,22 @@ private:
         m_scopes.append(scope);
     }
 
-    void symbol(const Token &token)
+    void symbol(const SqlToken &token)
     {
-        if (isSymbol(token, u'(')) {
+        if (token.isSymbol(u'(')) {
             m_scopes.append(Scope{});
             write(u"("_s);
-        } else if (isSymbol(token, u')')) {
+        } else if (token.isSymbol(u')')) {
             if (m_scopes.size() < 2)
-                refuse(u"Fazla kapanan parantez"_s, m_sql);
+                refuseSql(u"Fazla kapanan parantez"_s, m_sql);
             const QString after = m_scopes.last().after;
             endScope();
             write(u")"_s);
             if (!after.isEmpty())
                 write(after);
-        } else if (isSymbol(token, u'/')) {
+        } else if (token.isSymbol(u'/')) {
             write(u"* 1.0 /"_s);
-        } else if (isSymbol(token, u'&')) {
+        } else if (token.isSymbol(u'&')) {
             write(u"||"_s);
         } else {
             write(token.text);
@@ -326,7 +186,7 @@ private:
                                ? QDate(parts[2].toInt(), parts[0].toInt(), parts[1].toInt())
                                : QDate();
         if (!date.isValid())
-            refuse(u"Hatalı tarih #%1#"_s.arg(text), m_sql);
+            refuseSql(u"Hatalı tarih #%1#"_s.arg(text), m_sql);
         return isoText(date);
     }
 
@@ -339,28 +199,29 @@ private:
         int depth = 0;
         qsizetype from = -1;
         for (qsizetype i = 0; i < m_tokens.size(); ++i) {
-            const Token &token = m_tokens[i];
-            depth += isSymbol(token, u'(') ? 1 : isSymbol(token, u')') ? -1 : 0;
+            const SqlToken &token = m_tokens[i];
+            depth += token.isSymbol(u'(') ? 1 : token.isSymbol(u')') ? -1 : 0;
             if (depth > 0)
                 continue;
-            if (isWord(token, "FROM"_L1))
+            if (token.isWord("FROM"_L1))
                 from = i;
-            if (isWord(token, "GROUP"_L1) || isWord(token, "DISTINCT"_L1) ||
-                isWord(token, "UNION"_L1))
+            if (token.isWord("GROUP"_L1) || token.isWord("DISTINCT"_L1) || token.isWord("UNION"_L1))
                 return {};
-            if (token.kind == Kind::Name && aggregates.contains(token.text, Qt::CaseInsensitive) &&
-                i + 1 < m_tokens.size() && isSymbol(m_tokens[i + 1], u'('))
+            if (token.kind == SqlToken::Kind::Name &&
+                aggregates.contains(token.text, Qt::CaseInsensitive) && i + 1 < m_tokens.size() &&
+                m_tokens[i + 1].isSymbol(u'('))
                 return {};
         }
-        if (from < 0 || from + 1 >= m_tokens.size() || m_tokens[from + 1].kind != Kind::Name)
+        if (from < 0 || from + 1 >= m_tokens.size() ||
+            m_tokens[from + 1].kind != SqlToken::Kind::Name)
             return {};
-        const bool alone = from + 2 == m_tokens.size() || isWord(m_tokens[from + 2], "WHERE"_L1) ||
-                           isWord(m_tokens[from + 2], "ORDER"_L1);
+        const bool alone = from + 2 == m_tokens.size() || m_tokens[from + 2].isWord("WHERE"_L1) ||
+                           m_tokens[from + 2].isWord("ORDER"_L1);
         return alone ? m_tokens[from + 1].text : QString();
     }
 
     QStringView m_sql;
-    QList<Token> m_tokens;
+    QList<SqlToken> m_tokens;
     qsizetype m_at = 0;
     QString m_out;
     QString m_rowNumberOf;
@@ -373,7 +234,7 @@ QString quotedName(QStringView name)
 {
     // Brackets, unlike double quotes, can never fall back to being a text.
     if (name.contains(u']'))
-        refuse(u"Geçersiz ad"_s, name);
+        refuseSql(u"Geçersiz ad"_s, name);
     return u'[' + name.toString() + u']';
 }
 
