@@ -1,4 +1,5 @@
 #include "PrintPreview.h"
+#include "PdfReader.h"
 #include "Printers.h"
 #include "ScriptedMessages.h"
 #include "TestRegistry.h"
@@ -49,16 +50,11 @@ private:
     QString m_folder;
 };
 
-QString wordPosition(const QString &pdf, const QString &word)
+/// Where a word stands, in twips.
+QPoint wordPosition(const QString &pdf, const QString &text)
 {
-    QProcess pdftotext;
-    pdftotext.start(u"pdftotext"_s, {u"-bbox"_s, pdf, u"-"_s});
-    pdftotext.waitForFinished();
-    const QString text = QString::fromUtf8(pdftotext.readAllStandardOutput());
-    const QRegularExpression place(u"xMin=\"([0-9.]+)\" yMin=\"([0-9.]+)\"[^>]*>%1<"_s.arg(word));
-    const QRegularExpressionMatch match = place.match(text);
-    return u"%1 %2"_s.arg(qRound(match.captured(1).toDouble()))
-        .arg(qRound(match.captured(2).toDouble()));
+    const PdfWord word = pdfWord(pdf, text);
+    return QPointF(word.x, word.y).toPoint();
 }
 
 } // namespace
@@ -107,7 +103,8 @@ private Q_SLOTS:
         m_messages->expect(u"PDF dosyası kaydedildi:\n"_s + QDir::toNativeSeparators(path));
         QTest::keyClick(&preview, Qt::Key_S, Qt::ControlModifier);
         QCOMPARE(suggested, u"Sipariş Fişi 7.pdf"_s);
-        QCOMPARE(wordPosition(path, u"3"_s), u"115 72"_s);
+        // The digit is the seventh character, at 144 twips each.
+        QCOMPARE(wordPosition(path, u"3"_s), QPoint(1440 + 6 * 144, 1440));
 
         path = m_folder->filePath(u"yok/fiş.pdf"_s);
         m_messages->expect({.text = u"PDF dosyası yazılamadı: %1\nKlasör bulunamadı."_s.arg(
@@ -139,7 +136,8 @@ private Q_SLOTS:
             QTest::keyClick(&preview, Qt::Key_P, Qt::ControlModifier);
             QVERIFY(!preview.isVisible());
         }
-        QCOMPARE(wordPosition(m_folder->filePath(u"Depo.pdf"_s), u"2"_s), u"151 54"_s);
+        QCOMPARE(wordPosition(m_folder->filePath(u"Depo.pdf"_s), u"2"_s),
+                 QPoint(1440 + 720 + 6 * 144, 1440 - 360));
 
         // A later run finds the choice again, unless that printer has gone.
         FilePrinters later(*m_settings, names, m_folder->path());

@@ -1,0 +1,54 @@
+#include "PdfReader.h"
+
+#include <QProcess>
+#include <QXmlStreamReader>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double twipsPerPoint = 20;
+
+QByteArray output(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    process.waitForFinished();
+    return process.readAllStandardOutput();
+}
+
+} // namespace
+
+QList<PdfWord> pdfWords(const QString &path)
+{
+    QXmlStreamReader xml(output(u"pdftotext"_s, {u"-bbox"_s, path, u"-"_s}));
+    QList<PdfWord> words;
+    int page = 0;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement)
+            continue;
+        if (xml.name() == u"page") {
+            ++page;
+        } else if (xml.name() == u"word") {
+            const QXmlStreamAttributes box = xml.attributes();
+            const double x = box.value(u"xMin"_s).toDouble() * twipsPerPoint;
+            const double y = box.value(u"yMin"_s).toDouble() * twipsPerPoint;
+            words.append({page, x, y, xml.readElementText()});
+        }
+    }
+    return words;
+}
+
+PdfWord pdfWord(const QString &path, const QString &text)
+{
+    for (const PdfWord &word : pdfWords(path)) {
+        if (word.text == text)
+            return word;
+    }
+    return {};
+}
+
+QStringList pdfFonts(const QString &path)
+{
+    return QString::fromUtf8(output(u"pdffonts"_s, {path})).split(u'\n', Qt::SkipEmptyParts).mid(2);
+}

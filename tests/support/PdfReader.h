@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+/// Reads printed pages back with poppler's tools.
+
+struct PdfWord
+{
+    int page = 0; ///< from 1
+    double x = 0; ///< of the top left corner, in twips
+    double y = 0;
+    QString text;
+};
+
+QList<PdfWord> pdfWords(const QString &path);
+/// The first word that reads so; an empty one when there is none.
+PdfWord pdfWord(const QString &path, const QString &text);
+/// The fonts as pdffonts lists them, one line each.
+QStringList pdfFonts(const QString &path);
