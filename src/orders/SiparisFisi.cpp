@@ -30,7 +30,7 @@ constexpr Twips noteY = 650_tw;
 constexpr Twips noteContinuedY = 850_tw;
 constexpr Twips headingY = 1150_tw;
 constexpr Twips headingAdvance = 200_tw;
-constexpr Twips customerY = 1900_tw;
+constexpr Twips customerY = 1900_tw; ///< lower under a heading of many lines
 constexpr QStringView noteLabel = u"AÇIKLAMA       : ";
 constexpr QStringView customerLabel = u"MÜŞTERİ        : ";
 constexpr Twips frameLeft = 450_tw;
@@ -74,6 +74,7 @@ private:
     void splitNote();
     void Baslikyaz();
     void customerLine();
+    Twips headingBottom() const;
     void frame();
     void YaziYaz(Twips x, Twips y, const QString &text) { m_document.text({x, y}, text); }
     void useFont(double points, bool bold);
@@ -148,20 +149,25 @@ void PlainSlip::customerLine()
     customer = onOneLine(customer).trimmed();
     const QStringList lines = wrappedLines(customer, room, room);
     QString line = customerLabel.toString();
-    Twips y = customerY;
+    const Twips firstY = std::max(customerY, headingBottom() + 60_tw);
+    Twips y = firstY;
     for (const QString &piece : lines.first(lines.size() - 1)) {
         YaziYaz(listAt.x, y, line + piece);
         line = QString(customerLabel.size(), u' ');
         y += headingAdvance;
     }
     YaziYaz(listAt.x, y, line + lines.last() + total);
-    YaziYaz(rightX, customerY, u"AYAR  : "_s + plainNumber(m_siparis.Ayar));
+    YaziYaz(rightX, firstY, u"AYAR  : "_s + plainNumber(m_siparis.Ayar));
+}
+
+Twips PlainSlip::headingBottom() const
+{
+    return headingY + headingAdvance * double(m_heading.size()) + 40_tw;
 }
 
 void PlainSlip::frame()
 {
     const Twips headingTop = headingY - 60_tw;
-    const Twips headingBottom = headingY + headingAdvance * double(m_heading.size()) + 40_tw;
     const Twips bottom = listAt.y - 70_tw;
     const Twips dataLeft = dataX - 40_tw;
     const Twips rightLeft = rightX - 40_tw;
@@ -169,17 +175,17 @@ void PlainSlip::frame()
     const auto across = [&](Twips y, Twips from) { m_document.line({from, y}, {frameRight, y}); };
     const auto down = [&](Twips x, Twips from, Twips to) { m_document.line({x, from}, {x, to}); };
 
-    for (const Twips y : {frameTop, headingTop, headingBottom, bottom})
+    for (const Twips y : {frameTop, headingTop, headingBottom(), bottom})
         across(y, frameLeft);
     across(datesBottom, dataLeft);
     for (const Twips x : {frameLeft, frameRight})
         down(x, frameTop, bottom);
     down(dataLeft, frameTop, headingTop);
     down(rightLeft, frameTop, datesBottom);
-    down(rightLeft, headingBottom, bottom);
+    down(rightLeft, headingBottom(), bottom);
 
     const auto columnRule = [&](int column) {
-        down(listAt.x + charWidth * (column - 0.6), headingTop, headingBottom);
+        down(listAt.x + charWidth * (column - 0.6), headingTop, headingBottom());
     };
     columnRule(FisSatirlari::colorColumn);
     for (int i = 0; i < qMin<int>(int(m_siparis.tipler.size()), FisSatirlari::typesPerLine); ++i)
