@@ -1,37 +1,53 @@
 #include "Emblem.h"
 
 #include <QPainter>
-#include <QPainterPath>
 
 namespace {
 
 /// The drawing's own square: 0 to 100 both ways.
 constexpr double drawingSize = 100;
 
+// Flat colours only: a gradient is filled by several threads, and starting
+// those takes longer than the whole login window.
+
 void paintRing(QPainter &painter)
 {
-    QLinearGradient gold(20, 40, 80, 100);
-    gold.setColorAt(0, QColor(0xf6, 0xdf, 0x9a));
-    gold.setColorAt(0.45, QColor(0xd4, 0xa0, 0x2c));
-    gold.setColorAt(0.55, QColor(0xb8, 0x86, 0x0b));
-    gold.setColorAt(1, QColor(0xf0, 0xd0, 0x78));
-    painter.setPen(QPen(QBrush(gold), 7.5));
+    const QPointF centre(50, 66);
+    const auto arc = [&](double radius, double width, QRgb color, int from, int span) {
+        painter.setPen(QPen(QColor(color), width, Qt::SolidLine, Qt::RoundCap));
+        painter.drawArc(QRectF(centre - QPointF(radius, radius), QSizeF(radius, radius) * 2),
+                        from * 16, span * 16);
+    };
     painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(QPointF(50, 66), 28, 28);
+    arc(28, 7.5, 0xffc9951f, 0, 360);
+    arc(30, 2.5, 0xffe9c35a, 70, 150);
+    arc(26.2, 2, 0xff9a6f08, 60, 150);
+    arc(30.2, 2, 0xffa87a0c, 260, 110);
+    arc(27.5, 2.2, 0xfff6df9a, 130, 55);
+    arc(26.2, 2, 0xfff0d078, 250, 110);
 }
 
 void paintBrilliant(QPainter &painter)
 {
-    const QPolygonF outline({{32, 10}, {68, 10}, {79, 22}, {50, 47}, {21, 22}});
-    QLinearGradient light(21, 10, 79, 47);
-    light.setColorAt(0, QColor(0xff, 0xff, 0xff));
-    light.setColorAt(1, QColor(0xc9, 0xdf, 0xe8));
-    painter.setPen(QPen(QColor(0x6f, 0x93, 0xa3), 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    painter.setBrush(light);
-    painter.drawPolygon(outline);
-    painter.drawLine(QPointF(21, 22), QPointF(79, 22));
-    painter.drawPolyline(QPolygonF({{32, 10}, {38, 22}, {50, 10}, {62, 22}, {68, 10}}));
-    painter.drawPolyline(QPolygonF({{38, 22}, {50, 47}, {62, 22}}));
+    struct Facet
+    {
+        QRgb color;
+        QPolygonF outline;
+    };
+    const QPointF left(21, 22), right(79, 22), point(50, 47);
+    const QPointF topLeft(32, 10), top(50, 10), topRight(68, 10), girdle1(38, 22), girdle2(62, 22);
+    painter.setPen(QPen(QColor(0x6f, 0x93, 0xa3), 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    for (const Facet &facet : {Facet{0xffffffff, QPolygonF({topLeft, left, girdle1})},
+                               Facet{0xffe2eef3, QPolygonF({topLeft, girdle1, top})},
+                               Facet{0xfff7fbfc, QPolygonF({top, girdle1, girdle2})},
+                               Facet{0xffd3e5ec, QPolygonF({top, girdle2, topRight})},
+                               Facet{0xffc3dae4, QPolygonF({topRight, girdle2, right})},
+                               Facet{0xffe8f2f6, QPolygonF({left, girdle1, point})},
+                               Facet{0xffd6e7ee, QPolygonF({girdle1, girdle2, point})},
+                               Facet{0xffb4d0dc, QPolygonF({girdle2, right, point})}}) {
+        painter.setBrush(QColor(facet.color));
+        painter.drawPolygon(facet.outline);
+    }
 }
 
 } // namespace
@@ -51,7 +67,7 @@ void paintEmblem(QPainter &painter, const QRectF &box)
 QIcon emblemIcon()
 {
     QIcon icon;
-    for (const int side : {16, 32, 48, 128}) {
+    for (const int side : {16, 32, 64}) {
         QPixmap picture(side, side);
         picture.fill(Qt::transparent);
         QPainter painter(&picture);

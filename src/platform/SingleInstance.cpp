@@ -8,8 +8,14 @@ using namespace Qt::StringLiterals;
 
 QString SingleInstance::defaultLockPath()
 {
-    return QStandardPaths::writableLocation(QStandardPaths::AppLocalDataLocation) +
-           "/kuyum.lock"_L1;
+    // A folder of this user alone, where writing costs nothing and which a
+    // restart of the machine empties.
+#ifdef Q_OS_WIN
+    constexpr auto place = QStandardPaths::TempLocation;
+#else
+    constexpr auto place = QStandardPaths::RuntimeLocation;
+#endif
+    return QStandardPaths::writableLocation(place) + "/kuyum.lock"_L1;
 }
 
 SingleInstance::SingleInstance(const QString &lockPath) : m_lock(lockPath)
