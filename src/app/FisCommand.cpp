@@ -62,7 +62,7 @@ Siparis findOrder(Oturum &oturum, qint32 Sipnum)
     if (std::optional<Siparis> siparis = store.SiparisBul(Sipnum))
         return *siparis;
     const QString text =
-        store.baslikFirmasi(Sipnum)
+        store.headerCustomer(Sipnum)
             ? u"%1 nolu siparişin müşterisi tanımlı değil; fişi yazılamadı."_s.arg(Sipnum)
             : u"%1 nolu sipariş bulunamadı."_s.arg(Sipnum);
     throw std::runtime_error(text.toStdString());

@@ -1,8 +1,23 @@
 #include "MenuTable.h"
 
+#include "Giris_Siparis.h"
 #include "ScreenServices.h"
 
-MenuScreens menuTable(ScreenServices &)
+namespace {
+
+constexpr int orderEntry = 7;
+
+} // namespace
+
+MenuScreens menuTable(ScreenServices &services)
 {
-    return {};
+    return {
+        {orderEntry,
+         [&services](QWidget *parent) {
+             return std::make_unique<Giris_Siparis>(
+                 OrderScreenContext{services.oturum, services.messages, services.openList,
+                                    services.viewer},
+                 parent);
+         }},
+    };
 }

@@ -10,43 +10,55 @@ static bool isSet(const QDateTime &date)
     return date.isValid() && date.date() != noDate();
 }
 
-bool UretimDurumu::hareketGormus() const
+bool ProductionState::hasBegun() const
 {
     return !durum1.trimmed().isEmpty() || !durum2.trimmed().isEmpty() || isSet(basTrh) ||
            isSet(bitTrh);
 }
 
-SiparisSatiri SiparisSatiri::bos(qsizetype tipSayisi)
+SiparisSatiri SiparisSatiri::empty(qsizetype typeCount)
 {
     SiparisSatiri row;
-    row.adetler.fill(0, tipSayisi);
-    row.sari.fill(false, tipSayisi);
+    row.adetler.fill(0, typeCount);
+    row.yellow.fill(false, typeCount);
     return row;
 }
 
-qint64 SiparisSatiri::toplamAdet() const
+qint64 SiparisSatiri::totalCount() const
 {
     return std::accumulate(adetler.begin(), adetler.end(), qint64(0));
 }
 
-const UretimDurumu &SiparisSatiri::durumu(int column) const
+const ProductionState &SiparisSatiri::stateOf(int column) const
 {
-    const auto own = ayriDurumlar.constFind(column);
-    return own == ayriDurumlar.constEnd() ? durum : *own;
+    const auto own = otherStates.constFind(column);
+    return own == otherStates.constEnd() ? state : *own;
 }
 
-bool SiparisSatiri::hareketGormus() const
+bool SiparisSatiri::hasBegun() const
 {
-    const auto moved = [](const auto &line) { return line.hareketGormus(); };
-    const auto movedLine = [](const SaklananSatir &line) { return line.durum.hareketGormus(); };
-    return durum.hareketGormus() || std::any_of(ayriDurumlar.begin(), ayriDurumlar.end(), moved) ||
-           std::any_of(saklananlar.begin(), saklananlar.end(), movedLine);
+    const auto moved = [](const auto &line) { return line.hasBegun(); };
+    const auto movedLine = [](const KeptLine &line) { return line.state.hasBegun(); };
+    return state.hasBegun() || std::any_of(otherStates.begin(), otherStates.end(), moved) ||
+           std::any_of(keptLines.begin(), keptLines.end(), movedLine);
 }
 
-QList<SaklananSatir> Siparis::tumSaklananlar() const
+void Siparis::becomeCopy()
 {
-    QList<SaklananSatir> all = saklananlar;
+    static const ProductionState notBegun{QStringLiteral(" "), QStringLiteral(" "), {}, {}};
+    Sipnum = 0;
+    keptLines.clear();
+    for (SiparisSatiri &row : satirlar) {
+        row.state = notBegun;
+        row.otherStates.clear();
+        row.keptLines.clear();
+    }
+}
+
+QList<KeptLine> Siparis::allKeptLines() const
+{
+    QList<KeptLine> all = keptLines;
     for (const SiparisSatiri &row : satirlar)
-        all += row.saklananlar;
+        all += row.keptLines;
     return all;
 }

@@ -16,7 +16,7 @@ struct UrunTipi
 
 /// Where a line stands in production: set by production tracking, carried
 /// through a save unchanged.
-struct UretimDurumu
+struct ProductionState
 {
     QString durum1;
     QString durum2;
@@ -24,21 +24,21 @@ struct UretimDurumu
     QDateTime bitTrh;
 
     /// Production has begun: a status or a date is set.
-    bool hareketGormus() const;
-    friend bool operator==(const UretimDurumu &, const UretimDurumu &) = default;
+    bool hasBegun() const;
+    friend bool operator==(const ProductionState &, const ProductionState &) = default;
 };
 
 /// A stored line that has no cell in the grid: its colour or product type is
 /// no longer defined, or its model no longer has that product type. A save
 /// leaves such a line as it is.
-struct SaklananSatir
+struct KeptLine
 {
     qint32 Dotosayi = 0;
     QString model;
     QString renk;
     qint32 adet = 0;
-    UretimDurumu durum;
-    friend bool operator==(const SaklananSatir &, const SaklananSatir &) = default;
+    ProductionState state;
+    friend bool operator==(const KeptLine &, const KeptLine &) = default;
 };
 
 /// One row of the order grid: a model in a colour, with a quantity for each
@@ -48,21 +48,21 @@ struct SiparisSatiri
     QString model;
     QString renk;
     QList<qint32> adetler; ///< one per product type, in the order of the columns; 0 is none
-    QList<bool> sari;      ///< per column: whether the model has that product type
+    QList<bool> yellow;    ///< per column: whether the model has that product type
     QString aciklama;
-    UretimDurumu durum;
-    /// By column: the cells whose line stands elsewhere in production than `durum`.
-    QMap<int, UretimDurumu> ayriDurumlar;
+    ProductionState state;
+    /// By column: the cells whose line stands elsewhere in production than `state`.
+    QMap<int, ProductionState> otherStates;
     /// Lines of this row that have no cell; they go when the row is removed.
-    QList<SaklananSatir> saklananlar;
+    QList<KeptLine> keptLines;
 
     /// An empty row for that many product types.
-    static SiparisSatiri bos(qsizetype tipSayisi);
+    static SiparisSatiri empty(qsizetype typeCount);
     /// The sum of the quantities.
-    qint64 toplamAdet() const;
+    qint64 totalCount() const;
     /// What the line under that column carries.
-    const UretimDurumu &durumu(int column) const;
-    bool hareketGormus() const;
+    const ProductionState &stateOf(int column) const;
+    bool hasBegun() const;
     friend bool operator==(const SiparisSatiri &, const SiparisSatiri &) = default;
 };
 
@@ -80,9 +80,11 @@ struct Siparis
     QString Aciklama;
     QList<UrunTipi> tipler; ///< all product types in the order of their columns
     QList<SiparisSatiri> satirlar;
-    QList<SaklananSatir> saklananlar; ///< stored lines that belong to no row
+    QList<KeptLine> keptLines; ///< stored lines that belong to no row
 
+    /// Makes it the same order with production not begun and nothing stored yet.
+    void becomeCopy();
     /// The lines without a cell, those of the rows included.
-    QList<SaklananSatir> tumSaklananlar() const;
+    QList<KeptLine> allKeptLines() const;
     friend bool operator==(const Siparis &, const Siparis &) = default;
 };

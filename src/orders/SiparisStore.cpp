@@ -1,10 +1,10 @@
 #include "SiparisStore.h"
 
 #include "Dates.h"
+#include "LineFolding.h"
 #include "Numbers.h"
+#include "OrderLookups.h"
 #include "Oturum.h"
-#include "SiparisAramalari.h"
-#include "SiparisKatlama.h"
 #include "TurkishText.h"
 
 #include <QSet>
@@ -13,9 +13,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum class Copy { Same, ProductionNotBegun };
+enum class RowNumbers { Written, Left };
 
-UretimDurumu stateOf(const Recordset &line)
+ProductionState stateOf(const Recordset &line)
 {
     return {line.text(u"Drm1"), line.text(u"Drm2"), line.value(u"Trhbas").toDateTime(),
             line.value(u"Trhbit").toDateTime()};
@@ -35,7 +35,7 @@ void setHeader(Recordset &header, const Siparis &siparis)
     header.set(u"Aciklama", siparis.Aciklama);
 }
 
-void setState(Recordset &line, const UretimDurumu &state)
+void setState(Recordset &line, const ProductionState &state)
 {
     line.set(u"Drm1", state.durum1);
     line.set(u"Drm2", state.durum2);
@@ -50,7 +50,7 @@ QList<qint32> columnTypes(Oturum &oturum, const QList<UrunTipi> &tipler)
     QHash<QString, int> sharing;
     for (const UrunTipi &tip : tipler)
         ++sharing[foldedText(tip.KisaAD)];
-    const SiparisAramalari lookups(oturum);
+    const OrderLookups lookups(oturum);
     QList<qint32> ids;
     for (const UrunTipi &tip : tipler) {
         const bool shared = sharing[foldedText(tip.KisaAD)] > 1;
@@ -60,10 +60,9 @@ QList<qint32> columnTypes(Oturum &oturum, const QList<UrunTipi> &tipler)
     return ids;
 }
 
-/// Adds a line for every quantity. A copy's lines get no row number.
-void addLines(Oturum &oturum, const Siparis &siparis, Copy copy)
+/// Adds a line for every quantity.
+void addLines(Oturum &oturum, const Siparis &siparis, RowNumbers rowNumbers)
 {
-    static const UretimDurumu notBegun{u" "_s, u" "_s, {}, {}};
     const QList<qint32> typeIds = columnTypes(oturum, siparis.tipler);
     Recordset lines = oturum.Veritabani->table(u"SiparisD"_s);
     for (qsizetype i = 0; i < siparis.satirlar.size(); ++i) {
@@ -74,13 +73,13 @@ void addLines(Oturum &oturum, const Siparis &siparis, Copy copy)
             if (row.adetler[j] == 0)
                 continue;
             lines.addNew();
-            if (copy == Copy::Same)
+            if (rowNumbers == RowNumbers::Written)
                 lines.set(u"SipSatir", i + 1);
             lines.set(u"SipnumD", siparis.Sipnum);
             lines.set(u"SipModel", row.model);
             lines.set(u"Siprenk", row.renk);
             lines.set(u"SipAck", row.aciklama);
-            setState(lines, copy == Copy::Same ? row.durumu(int(j)) : notBegun);
+            setState(lines, row.stateOf(int(j)));
             lines.set(u"SipAdet", row.adetler[j]);
             lines.set(u"SipUruntip", typeIds[j]);
             lines.update();
@@ -92,7 +91,7 @@ void addLines(Oturum &oturum, const Siparis &siparis, Copy copy)
 QString deleteLinesSql(const Siparis &siparis)
 {
     QStringList kept;
-    for (const SaklananSatir &line : siparis.tumSaklananlar())
+    for (const KeptLine &line : siparis.allKeptLines())
         kept.append(QString::number(line.Dotosayi));
     const QString all = u"DELETE From SiparisD Where SipnumD = "_s + sqlNumber(siparis.Sipnum);
     return kept.isEmpty() ? all : all + u" and Dotosayi Not In("_s + kept.join(u',') + u')';
@@ -100,7 +99,7 @@ QString deleteLinesSql(const Siparis &siparis)
 
 } // namespace
 
-QList<UrunTipi> SiparisStore::UrunTipleri() const
+QList<UrunTipi> SiparisStore::productTypes() const
 {
     Recordset Kayit = m_oturum->sorgula(u"Select * From UrunTipi Order by Sirano;"_s);
     QList<UrunTipi> types;
@@ -129,29 +128,29 @@ std::optional<Siparis> SiparisStore::SiparisBul(qint32 Sipnum) const
     siparis.Ayar = Kayit.number(u"Ayar");
     siparis.Patent = Kayit.text(u"Patent");
     siparis.Aciklama = Kayit.text(u"SiparisB.Aciklama");
-    siparis.tipler = UrunTipleri();
+    siparis.tipler = productTypes();
 
-    const SiparisAramalari lookups(*m_oturum);
+    const OrderLookups lookups(*m_oturum);
     QHash<QString, QStringList> known;
     const auto typesOf = [&](const QString &model) {
         auto types = known.constFind(model);
         return types != known.constEnd() ? *types
-                                         : *known.insert(model, lookups.modelTipleri(model));
+                                         : *known.insert(model, lookups.typesOfModel(model));
     };
-    const QList<SiparisKaydi> lines = satirKayitlari(Sipnum);
-    siparis.satirlar = satirlaraKatla(lines, siparis.tipler, typesOf);
-    siparis.saklananlar = digerSatirlar(Sipnum, lines);
+    const QList<OrderLine> lines = readLines(Sipnum);
+    siparis.satirlar = foldLines(lines, siparis.tipler, typesOf);
+    siparis.keptLines = otherLines(Sipnum, lines);
     return siparis;
 }
 
-QList<SiparisKaydi> SiparisStore::satirKayitlari(qint32 Sipnum) const
+QList<OrderLine> SiparisStore::readLines(qint32 Sipnum) const
 {
     Recordset Kayit =
         m_oturum->sorgula(u"Select * From SiparisD, UrunTipi, Renkler "
                           "Where Sipuruntip = TipID and SiparisD.Siprenk = Renkler.Renkno "
                           "and SipnumD = "_s +
                           sqlNumber(Sipnum) + u" Order by SipSatir, Sipmodel, Renksira, Sipack;"_s);
-    QList<SiparisKaydi> lines;
+    QList<OrderLine> lines;
     QSet<qint32> seen; // a type or colour that is defined twice must not double the pieces
     while (Kayit.next()) {
         const qint32 id = qint32(Kayit.integer(u"Dotosayi"));
@@ -165,15 +164,14 @@ QList<SiparisKaydi> SiparisStore::satirKayitlari(qint32 Sipnum) const
     return lines;
 }
 
-QList<SaklananSatir> SiparisStore::digerSatirlar(qint32 Sipnum,
-                                                 const QList<SiparisKaydi> &gosterilen) const
+QList<KeptLine> SiparisStore::otherLines(qint32 Sipnum, const QList<OrderLine> &shownLines) const
 {
     QSet<qint32> shown;
-    for (const SiparisKaydi &line : gosterilen)
+    for (const OrderLine &line : shownLines)
         shown.insert(line.Dotosayi);
     Recordset Kayit =
         m_oturum->sorgula(u"Select * From SiparisD Where SipnumD = "_s + sqlNumber(Sipnum));
-    QList<SaklananSatir> others;
+    QList<KeptLine> others;
     while (Kayit.next()) {
         const qint32 id = qint32(Kayit.integer(u"Dotosayi"));
         if (!shown.contains(id)) {
@@ -184,7 +182,7 @@ QList<SaklananSatir> SiparisStore::digerSatirlar(qint32 Sipnum,
     return others;
 }
 
-std::optional<qint32> SiparisStore::baslikFirmasi(qint32 Sipnum) const
+std::optional<qint32> SiparisStore::headerCustomer(double Sipnum) const
 {
     Recordset Kayit =
         m_oturum->sorgula(u"Select * From SiparisB Where Sipnum = "_s + sqlNumber(Sipnum));
@@ -193,7 +191,7 @@ std::optional<qint32> SiparisStore::baslikFirmasi(qint32 Sipnum) const
     return qint32(Kayit.integer(u"SipFirkod"));
 }
 
-bool SiparisStore::kaydet(Siparis &siparis) const
+bool SiparisStore::save(Siparis &siparis) const
 {
     if (siparis.Sipnum != 0) {
         Recordset header = m_oturum->sorgula(u"Select * From SiparisB Where Sipnum = "_s +
@@ -204,43 +202,45 @@ bool SiparisStore::kaydet(Siparis &siparis) const
         setHeader(header, siparis);
         header.update();
     } else {
-        baslikEkle(siparis, siparis.SipTrh);
+        addHeader(siparis);
     }
 
     Transaction lines(*m_oturum->Veritabani);
-    calistir(deleteLinesSql(siparis));
-    addLines(*m_oturum, siparis, Copy::Same);
+    execute(deleteLinesSql(siparis));
+    addLines(*m_oturum, siparis, RowNumbers::Written);
     lines.commit();
     return true;
 }
 
-void SiparisStore::yeniKaydet(Siparis &siparis, QDate SipTrh) const
+void SiparisStore::saveAsNew(Siparis &siparis, QDate SipTrh) const
 {
-    baslikEkle(siparis, SipTrh);
+    siparis.becomeCopy();
+    siparis.SipTrh = SipTrh;
+    addHeader(siparis);
     Transaction lines(*m_oturum->Veritabani);
-    addLines(*m_oturum, siparis, Copy::ProductionNotBegun);
+    addLines(*m_oturum, siparis, RowNumbers::Left);
     lines.commit();
 }
 
-void SiparisStore::sil(qint32 Sipnum) const
+void SiparisStore::remove(qint32 Sipnum) const
 {
     Transaction removal(*m_oturum->Veritabani);
-    calistir(u"DELETE From SiparisB Where Sipnum = "_s + sqlNumber(Sipnum));
-    calistir(u"DELETE From SiparisD Where SipnumD = "_s + sqlNumber(Sipnum));
+    execute(u"DELETE From SiparisB Where Sipnum = "_s + sqlNumber(Sipnum));
+    execute(u"DELETE From SiparisD Where SipnumD = "_s + sqlNumber(Sipnum));
     removal.commit();
 }
 
-void SiparisStore::baslikEkle(Siparis &siparis, QDate SipTrh) const
+void SiparisStore::addHeader(Siparis &siparis) const
 {
     Recordset headers = m_oturum->Veritabani->table(u"SiparisB"_s);
     headers.addNew();
-    headers.set(u"SipTrh", SipTrh);
+    headers.set(u"SipTrh", siparis.SipTrh);
     setHeader(headers, siparis);
     headers.update();
     siparis.Sipnum = qint32(headers.integer(u"Sipnum"));
 }
 
-void SiparisStore::calistir(const QString &sql) const
+void SiparisStore::execute(const QString &sql) const
 {
     m_oturum->SonSQL = sql;
     m_oturum->Veritabani->execute(sql);

@@ -23,6 +23,7 @@ void PictureBox::showFile(const QString &path)
 void PictureBox::load()
 {
     m_loadedFor = contentsRect().size();
+    m_error.clear();
     if (m_path.isEmpty()) {
         clear();
         return;
@@ -30,7 +31,8 @@ void PictureBox::load()
     const qreal ratio = devicePixelRatioF();
     const PictureResult result = loadPicture(m_path, m_loadedFor * ratio);
     if (result.image.isNull()) {
-        setText(result.error);
+        m_error = result.error;
+        setText(m_error);
         return;
     }
     QPixmap pixmap = QPixmap::fromImage(result.image);

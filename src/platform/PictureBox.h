@@ -11,6 +11,8 @@ public:
     /// An empty path clears the box.
     void showFile(const QString &path);
     const QString &path() const { return m_path; }
+    /// Why the file cannot be shown; empty when it can.
+    const QString &error() const { return m_error; }
     QSize sizeHint() const override { return {280, 280}; }
 
 protected:
@@ -20,5 +22,6 @@ private:
     void load();
 
     QString m_path;
+    QString m_error;
     QSize m_loadedFor;
 };

@@ -1,12 +1,12 @@
-#include "UrunEtiketi.h"
+#include "ProductLabel.h"
 
 #include <algorithm>
 
-std::optional<UrunEtiketi> etiketOku(QStringView text)
+std::optional<ProductLabel> readLabel(QStringView text)
 {
     const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
     if (text.size() != 13 || !text.startsWith(u"16") ||
         !std::all_of(text.begin(), text.end(), isDigit))
         return std::nullopt;
-    return UrunEtiketi{text.sliced(2, 3).toInt(), text.sliced(5, 7).toInt()};
+    return ProductLabel{text.sliced(2, 3).toInt(), text.sliced(5, 7).toInt()};
 }

@@ -5,7 +5,7 @@
 #include <functional>
 
 /// One stored line, as the query of an order's lines reads it.
-struct SiparisKaydi
+struct OrderLine
 {
     qint32 Dotosayi = 0;
     QString SipSatir; ///< as text: empty for a line that has none
@@ -14,19 +14,19 @@ struct SiparisKaydi
     QString SipAck;
     qint32 SipUruntip = 0;
     qint32 SipAdet = 0;
-    UretimDurumu durum;
+    ProductionState state;
 };
 
 /// The short names of the product types that a model has.
-using ModelTipleri = std::function<QStringList(const QString &model)>;
+using TypesOfModel = std::function<QStringList(const QString &model)>;
 
 /// Folds stored lines into grid rows, in their order: lines with the same row
 /// number, model, colour and note share a row. A second quantity for a cell
 /// that is already filled gets a row of its own, so that no piece is lost;
 /// quantities under a product type that the model does not have leave the grid
 /// and are kept with the row.
-QList<SiparisSatiri> satirlaraKatla(const QList<SiparisKaydi> &kayitlar,
-                                    const QList<UrunTipi> &tipler, const ModelTipleri &tipleri);
+QList<SiparisSatiri> foldLines(const QList<OrderLine> &kayitlar, const QList<UrunTipi> &tipler,
+                               const TypesOfModel &tipleri);
 
 /// Per column: whether its product type is one of these.
-QList<bool> sariKolonlar(const QList<UrunTipi> &tipler, const QStringList &kisaAdlar);
+QList<bool> yellowColumns(const QList<UrunTipi> &tipler, const QStringList &kisaAdlar);

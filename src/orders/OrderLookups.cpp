@@ -1,31 +1,31 @@
-#include "SiparisAramalari.h"
+#include "OrderLookups.h"
 
 #include "Numbers.h"
 #include "Oturum.h"
+#include "ProductLabel.h"
 #include "SqlText.h"
-#include "UrunEtiketi.h"
 
 using namespace Qt::StringLiterals;
 
-std::optional<SiparisFirmasi> SiparisAramalari::firma(double Firkod) const
+std::optional<OrderCustomer> OrderLookups::firma(double Firkod) const
 {
     Recordset Kayit =
         m_oturum->sorgula(u"Select * From Firma Where Firkod = "_s + sqlNumber(Firkod));
     if (!Kayit.next())
         return std::nullopt;
-    return SiparisFirmasi{qint32(Kayit.integer(u"Firkod")), Kayit.text(u"FirAdi"),
-                          Kayit.text(u"KisaAD"), Kayit.text(u"Aciklama")};
+    return OrderCustomer{qint32(Kayit.integer(u"Firkod")), Kayit.text(u"FirAdi"),
+                         Kayit.text(u"KisaAD"), Kayit.text(u"Aciklama")};
 }
 
-std::optional<BulunanModel> SiparisAramalari::model(const QString &text) const
+std::optional<FoundModel> OrderLookups::model(const QString &text) const
 {
-    const std::optional<BulunanModel> scanned = etiket(text);
-    return scanned ? scanned : modelKodu(text);
+    const std::optional<FoundModel> scanned = etiket(text);
+    return scanned ? scanned : byCode(text);
 }
 
-std::optional<BulunanModel> SiparisAramalari::etiket(const QString &text) const
+std::optional<FoundModel> OrderLookups::etiket(const QString &text) const
 {
-    const std::optional<UrunEtiketi> label = etiketOku(text);
+    const std::optional<ProductLabel> label = readLabel(text);
     if (!label)
         return std::nullopt;
     Recordset Kayit = m_oturum->sorgula(
@@ -34,24 +34,29 @@ std::optional<BulunanModel> SiparisAramalari::etiket(const QString &text) const
         sqlNumber(label->Model_ID) + u" and m_uruntip = "_s + sqlNumber(label->TipID));
     if (!Kayit.next())
         return std::nullopt;
-    return BulunanModel{Kayit.text(u"Model"), Kayit.text(u"KisaAD")};
+    return FoundModel{Kayit.text(u"Model"), Kayit.text(u"KisaAD")};
 }
 
-std::optional<BulunanModel> SiparisAramalari::modelKodu(const QString &kod) const
+std::optional<FoundModel> OrderLookups::byCode(const QString &kod) const
 {
     Recordset Kayit = m_oturum->sorgula(u"Select * From Model Where Model = "_s + sqlText(kod));
-    std::optional<BulunanModel> found;
+    std::optional<FoundModel> found;
     while (Kayit.next()) {
         const QString code = Kayit.text(u"Model");
         if (code == kod)
-            return BulunanModel{code, {}};
+            return FoundModel{code, {}};
         if (!found)
-            found = BulunanModel{code, {}};
+            found = FoundModel{code, {}};
     }
     return found;
 }
 
-QStringList SiparisAramalari::modelTipleri(const QString &model) const
+bool OrderLookups::hasModel(const QString &model) const
+{
+    return byCode(model).has_value();
+}
+
+QStringList OrderLookups::typesOfModel(const QString &model) const
 {
     Recordset Kayit = m_oturum->sorgula(u"Select KisaAD From Model, UrunTipi "
                                         "Where M_Uruntip = TipID and Model = "_s +
@@ -62,7 +67,7 @@ QStringList SiparisAramalari::modelTipleri(const QString &model) const
     return names;
 }
 
-QStringList SiparisAramalari::resimTipleri(const QString &model) const
+QStringList OrderLookups::pictureTypes(const QString &model) const
 {
     Recordset Kayit = m_oturum->sorgula(
         u"SELECT Kisaad FROM Model INNER JOIN UrunTipi ON Model.M_Uruntip = UrunTipi.TipID "
@@ -75,7 +80,7 @@ QStringList SiparisAramalari::resimTipleri(const QString &model) const
     return names;
 }
 
-QStringList SiparisAramalari::renkler() const
+QStringList OrderLookups::colours() const
 {
     Recordset Kayit = m_oturum->sorgula(u"Select * From Renkler Order by RenkSira;"_s);
     QStringList names;
@@ -84,14 +89,14 @@ QStringList SiparisAramalari::renkler() const
     return names;
 }
 
-qint32 SiparisAramalari::UrunTipIdBul(const QString &KisaAD) const
+qint32 OrderLookups::UrunTipIdBul(const QString &KisaAD) const
 {
     Recordset Kayit =
         m_oturum->sorgula(u"Select TipID From UrunTipi Where KisaAD = "_s + sqlText(KisaAD));
     return Kayit.next() ? qint32(Kayit.integer(u"TipID")) : 0;
 }
 
-float SiparisAramalari::UrGram(const QString &model) const
+float OrderLookups::UrGram(const QString &model) const
 {
     Recordset Kayit = m_oturum->sorgula(u"Select * From Model Where Model = "_s + sqlText(model));
     return Kayit.next() ? float(Kayit.number(u"m_miktar")) : 0.0F;

@@ -1,4 +1,4 @@
-#include "SiparisKatlama.h"
+#include "LineFolding.h"
 
 #include "TurkishText.h"
 
@@ -10,10 +10,10 @@ namespace {
 struct Row
 {
     SiparisSatiri satir;
-    QMap<int, SiparisKaydi> cells;
+    QMap<int, OrderLine> cells;
 };
 
-bool sameRow(const SiparisKaydi &a, const SiparisKaydi &b)
+bool sameRow(const OrderLine &a, const OrderLine &b)
 {
     return a.SipSatir == b.SipSatir && a.SipModel == b.SipModel && a.Siprenk == b.Siprenk &&
            a.SipAck == b.SipAck;
@@ -26,32 +26,32 @@ int columnOf(const QList<UrunTipi> &tipler, qint32 TipID)
     return int(tip - tipler.begin());
 }
 
-Row newRow(const SiparisKaydi &line, qsizetype columns)
+Row newRow(const OrderLine &line, qsizetype columns)
 {
-    Row row{SiparisSatiri::bos(columns), {}};
+    Row row{SiparisSatiri::empty(columns), {}};
     row.satir.model = line.SipModel;
     row.satir.renk = line.Siprenk;
     row.satir.aciklama = line.SipAck;
-    row.satir.durum = line.durum;
+    row.satir.state = line.state;
     return row;
 }
 
 void fill(Row &row, int column)
 {
-    const SiparisKaydi &line = row.cells[column];
-    if (!row.satir.sari[column]) {
-        row.satir.saklananlar.append(
-            {line.Dotosayi, line.SipModel, line.Siprenk, line.SipAdet, line.durum});
+    const OrderLine &line = row.cells[column];
+    if (!row.satir.yellow[column]) {
+        row.satir.keptLines.append(
+            {line.Dotosayi, line.SipModel, line.Siprenk, line.SipAdet, line.state});
         return;
     }
     row.satir.adetler[column] = line.SipAdet;
-    if (line.durum != row.satir.durum)
-        row.satir.ayriDurumlar.insert(column, line.durum);
+    if (line.state != row.satir.state)
+        row.satir.otherStates.insert(column, line.state);
 }
 
 } // namespace
 
-QList<bool> sariKolonlar(const QList<UrunTipi> &tipler, const QStringList &kisaAdlar)
+QList<bool> yellowColumns(const QList<UrunTipi> &tipler, const QStringList &kisaAdlar)
 {
     QList<bool> yellow;
     for (const UrunTipi &tip : tipler) {
@@ -62,13 +62,13 @@ QList<bool> sariKolonlar(const QList<UrunTipi> &tipler, const QStringList &kisaA
     return yellow;
 }
 
-QList<SiparisSatiri> satirlaraKatla(const QList<SiparisKaydi> &kayitlar,
-                                    const QList<UrunTipi> &tipler, const ModelTipleri &tipleri)
+QList<SiparisSatiri> foldLines(const QList<OrderLine> &kayitlar, const QList<UrunTipi> &tipler,
+                               const TypesOfModel &tipleri)
 {
     std::vector<Row> rows;
     std::size_t group = 0; // where the rows of the line before this one begin
     for (qsizetype i = 0; i < kayitlar.size(); ++i) {
-        const SiparisKaydi &line = kayitlar[i];
+        const OrderLine &line = kayitlar[i];
         if (i == 0 || !sameRow(line, kayitlar[i - 1]))
             group = rows.size();
         const int column = columnOf(tipler, line.SipUruntip);
@@ -81,7 +81,7 @@ QList<SiparisSatiri> satirlaraKatla(const QList<SiparisKaydi> &kayitlar,
 
     QList<SiparisSatiri> result;
     for (Row &row : rows) {
-        row.satir.sari = sariKolonlar(tipler, tipleri(row.satir.model));
+        row.satir.yellow = yellowColumns(tipler, tipleri(row.satir.model));
         for (const int column : row.cells.keys())
             fill(row, column);
         result.append(row.satir);

@@ -7,7 +7,7 @@
 struct Oturum;
 
 /// A customer as the order screen takes it over.
-struct SiparisFirmasi
+struct OrderCustomer
 {
     qint32 Firkod = 0;
     QString FirAdi;
@@ -16,7 +16,7 @@ struct SiparisFirmasi
 };
 
 /// A model found by its code or by a scanned label.
-struct BulunanModel
+struct FoundModel
 {
     QString Model;
     QString KisaAD; ///< the label's product type; empty when found by code
@@ -24,30 +24,32 @@ struct BulunanModel
 
 /// What order entry looks up in the master data. Everything throws
 /// DatabaseError.
-class SiparisAramalari
+class OrderLookups
 {
 public:
-    explicit SiparisAramalari(Oturum &oturum) : m_oturum(&oturum) {}
+    explicit OrderLookups(Oturum &oturum) : m_oturum(&oturum) {}
 
-    std::optional<SiparisFirmasi> firma(double Firkod) const;
+    std::optional<OrderCustomer> firma(double Firkod) const;
     /// A 13-digit product label gives its model and product type; any other
     /// text, and a label that is not known, counts as a model code. Of codes
     /// that differ only in letter case the one typed exactly so is taken.
-    std::optional<BulunanModel> model(const QString &text) const;
-    std::optional<BulunanModel> etiket(const QString &text) const;
+    std::optional<FoundModel> model(const QString &text) const;
+    std::optional<FoundModel> etiket(const QString &text) const;
+    /// Whether the model code is defined.
+    bool hasModel(const QString &model) const;
     /// The short names of the product types that the model has.
-    QStringList modelTipleri(const QString &model) const;
+    QStringList typesOfModel(const QString &model) const;
     /// Where a model's picture may lie besides the picture folder itself.
-    QStringList resimTipleri(const QString &model) const;
+    QStringList pictureTypes(const QString &model) const;
     /// The colours in their display order.
-    QStringList renkler() const;
+    QStringList colours() const;
     /// The product type of a short name; 0 for an unknown one.
     qint32 UrunTipIdBul(const QString &KisaAD) const;
     /// Grams of one piece of a model; 0 for an unknown one.
     float UrGram(const QString &model) const;
 
 private:
-    std::optional<BulunanModel> modelKodu(const QString &kod) const;
+    std::optional<FoundModel> byCode(const QString &kod) const;
 
     Oturum *m_oturum;
 };

@@ -1,0 +1,138 @@
+#include "CellEditors.h"
+
+#include "TurkishText.h"
+#include "Twips.h"
+
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QRegularExpressionValidator>
+#include <QTableView>
+
+using namespace Qt::StringLiterals;
+
+constexpr Twips colourEditorExtra = 300_tw;
+constexpr int noLimit = 32767;
+
+CellEditors::CellEditors(QTableView *grid)
+    : QObject(grid),
+      m_grid(grid),
+      txtTas(new QLineEdit(grid->viewport())),
+      cmbTas(new QComboBox(grid->viewport()))
+{
+    txtTas->setObjectName(u"txtTas"_s);
+    txtTas->setAccessibleName(u"Hücre"_s);
+    cmbTas->setObjectName(u"cmbTas"_s);
+    cmbTas->setAccessibleName(u"Renk"_s);
+    txtTas->hide();
+    cmbTas->hide();
+    connect(txtTas, &QLineEdit::textEdited, this, &CellEditors::edited);
+}
+
+void CellEditors::setColours(const QStringList &colours)
+{
+    cmbTas->clear();
+    cmbTas->addItems(colours);
+}
+
+void CellEditors::open(const QModelIndex &cell, Kind tur, int limit, const QString &typed)
+{
+    static const QRegularExpressionValidator whole(QRegularExpression(u"-?[0-9]*"_s));
+    m_cell = cell;
+    m_tur = tur;
+    const QString text = cell.data(Qt::EditRole).toString();
+    if (tur == Kind::Colour) {
+        m_colourTyped.clear();
+        cmbTas->setCurrentIndex(cmbTas->findText(text, Qt::MatchFixedString));
+        chooseColour(typed);
+    } else {
+        txtTas->setValidator(tur == Kind::Quantity ? &whole : nullptr);
+        txtTas->setMaxLength(limit == 0 ? noLimit : limit);
+        txtTas->setText(text);
+        txtTas->selectAll();
+        txtTas->insert(typed.isEmpty() ? text : typed);
+        if (typed.isEmpty())
+            txtTas->selectAll();
+    }
+    place();
+    editor()->show();
+    editor()->setFocus();
+}
+
+void CellEditors::close()
+{
+    QWidget *open = editor();
+    m_cell = QPersistentModelIndex();
+    if (open == nullptr)
+        return;
+    // The window may be in the background, behind a message box.
+    const bool hadFocus = open == m_grid->window()->focusWidget();
+    open->hide();
+    if (hadFocus)
+        m_grid->setFocus();
+}
+
+void CellEditors::place()
+{
+    if (!isOpen())
+        return;
+    QRect place = m_grid->visualRect(m_cell);
+    if (m_tur == Kind::Colour)
+        place.setWidth(place.width() + int(colourEditorExtra.pixels(m_grid->logicalDpiX())));
+    editor()->setGeometry(place);
+}
+
+QWidget *CellEditors::editor() const
+{
+    if (!isOpen())
+        return nullptr;
+    return m_tur == Kind::Colour ? static_cast<QWidget *>(cmbTas) : txtTas;
+}
+
+QString CellEditors::text() const
+{
+    return m_tur == Kind::Colour ? cmbTas->currentText() : txtTas->text();
+}
+
+bool CellEditors::isChanged() const
+{
+    return text() != m_cell.data(Qt::EditRole).toString() &&
+           (m_tur != Kind::Colour || cmbTas->currentIndex() >= 0);
+}
+
+void CellEditors::selectAll()
+{
+    txtTas->setFocus();
+    txtTas->selectAll();
+}
+
+bool CellEditors::types(const QKeyEvent *event)
+{
+    const Qt::KeyboardModifiers held = event->modifiers();
+    // Both together are AltGr, which types characters.
+    const bool command = held.testFlag(Qt::ControlModifier) != held.testFlag(Qt::AltModifier);
+    return !command && !event->text().isEmpty() && event->text().front().isPrint();
+}
+
+bool CellEditors::typeColour(const QKeyEvent *event)
+{
+    if (!types(event))
+        return false;
+    chooseColour(event->text());
+    return true;
+}
+
+void CellEditors::chooseColour(const QString &text)
+{
+    if (text.isEmpty())
+        return;
+    for (const QString &typed : {m_colourTyped + text, text}) {
+        for (int i = 0; i < cmbTas->count(); ++i) {
+            if (searchKey(cmbTas->itemText(i)).startsWith(searchKey(typed))) {
+                cmbTas->setCurrentIndex(i);
+                m_colourTyped = typed;
+                return;
+            }
+        }
+    }
+}

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "OrderLookups.h"
+#include "OrderScreenContext.h"
+#include "SiparisKontrol.h"
+#include "SiparisStore.h"
+
+#include <memory>
+#include <QDialog>
+
+class ModelEntry;
+class SiparisModel;
+
+namespace Ui {
+class Giris_Siparis;
+}
+
+/// Order entry. In the order-number state only the number and the list live;
+/// in the editing state an order, found or new, stands on the screen.
+class Giris_Siparis : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit Giris_Siparis(const OrderScreenContext &context, QWidget *parent = nullptr);
+    ~Giris_Siparis() override;
+
+    /// Leaves the screen, unless the user wants to keep what is not saved yet.
+    void reject() override;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    template <typename Action>
+    void bind(QWidget *button, Action action);
+    void connectControls();
+    void connectGrid();
+    void fillChoices();
+    void limitEntries();
+    void enterPressed();
+
+    // States
+    void TusKapa();
+    void TusAC();
+    void setEditing(bool on);
+    bool isEditing() const;
+    bool mayLeave();
+    void abandon();
+
+    // Finding and filling
+    void SiparisBul(double number);
+    void SiparisDoldur(const Siparis &siparis);
+    void pickOrder();
+    void tellKeptLines();
+    void FirmaBul();
+    void showCustomer(const OrderCustomer &firma);
+    void customerTyped();
+
+    // The grid
+    void Gridbosalt();
+    void removeRow(int row);
+    void setQuickEntry(bool on);
+    void pickFixedColour();
+    enum class PictureError { Tell, Skip };
+    void ResimGoster(const QString &model, PictureError onError);
+    QString picturePath(const QString &model) const;
+    void showWarning(const QString &text);
+
+    // Saving
+    Siparis collect() const;
+    bool check(const Siparis &siparis);
+    void showFault(const OrderFault &fault);
+    bool holdsOwnNumber();
+    void showNumber(const Siparis &siparis);
+    void save();
+    void saveAsNew();
+    void removeOrder();
+    void print();
+    void showSlip(const Siparis &siparis);
+    void afterSave(const Siparis &siparis);
+
+    OrderScreenContext m_context;
+    SiparisStore m_store;
+    OrderLookups m_lookups;
+    std::unique_ptr<Ui::Giris_Siparis> m_ui;
+    SiparisModel *m_model;
+    ModelEntry *m_modelEntry;
+    OrderCustomer m_customer;    ///< the customer on the screen
+    qint32 m_stored = 0;         ///< the stored order that the screen holds; 0: none
+    Siparis m_opened;            ///< the screen as it was opened
+    QList<KeptLine> m_keptLines; ///< of the order, without those of its rows
+};

@@ -1,0 +1,171 @@
+#include "Giris_Siparis.h"
+
+#include "Dates.h"
+#include "DocumentViewer.h"
+#include "Guarded.h"
+#include "Numbers.h"
+#include "Oturum.h"
+#include "SiparisFisi.h"
+#include "SiparisModel.h"
+#include "ToplamGram.h"
+#include "ui_Giris_Siparis.h"
+
+using namespace Qt::StringLiterals;
+
+/// The order entry screen: checking, saving, removing and printing an order.
+
+Siparis Giris_Siparis::collect() const
+{
+    Siparis siparis;
+    siparis.Sipnum = m_stored;
+    siparis.SipTrh = m_ui->SipTrh->date();
+    siparis.TesTrh = m_ui->TesTrh->date();
+    siparis.Firkod = qint32(leadingNumber(m_ui->Firkod->text()));
+    siparis.FirAdi = m_ui->FirAdi->text();
+    siparis.KisaAD = m_ui->KisaAD->text();
+    siparis.Ayar = leadingNumber(m_ui->Ayar->text());
+    siparis.Patent = m_ui->Patent->text();
+    siparis.Aciklama = m_ui->Aciklama->text();
+    siparis.tipler = m_model->tipler();
+    siparis.satirlar = m_model->satirlar();
+    siparis.keptLines = m_keptLines;
+    if (siparis.satirlar.size() > 1 && siparis.satirlar.last().model.trimmed().isEmpty())
+        siparis.satirlar.removeLast();
+    return siparis;
+}
+
+bool Giris_Siparis::check(const Siparis &siparis)
+{
+    const auto defined = [this](const QString &model) { return m_lookups.hasModel(model); };
+    const std::optional<OrderFault> fault = checkOrder(siparis, defined);
+    if (fault)
+        showFault(*fault);
+    return !fault;
+}
+
+void Giris_Siparis::showFault(const OrderFault &fault)
+{
+    using Field = OrderFault::Field;
+    const std::map<Field, QWidget *> fields = {{Field::FirAdi, m_ui->FirAdi},
+                                               {Field::Ayar, m_ui->Ayar},
+                                               {Field::Patent, m_ui->Patent},
+                                               {Field::Aciklama, m_ui->Aciklama},
+                                               {Field::Grid, m_ui->Rapor}};
+    m_context.messages.say(this, fault.text,
+                           fault.critical ? MessageIcon::Critical : MessageIcon::Exclamation,
+                           fault.title);
+    if (fault.satir >= 0)
+        m_ui->Rapor->goTo(fault.satir, fault.column);
+    if (fault.alan != Field::None)
+        fields.at(fault.alan)->setFocus(Qt::OtherFocusReason);
+}
+
+/// Whether the number on the screen is that of the order the screen holds, or
+/// none. A save under any other number would replace an order never shown.
+bool Giris_Siparis::holdsOwnNumber()
+{
+    const double number = leadingNumber(m_ui->Sipnum->text());
+    if (number == m_stored)
+        return true;
+    const std::optional<qint32> customer = m_store.headerCustomer(number);
+    m_context.messages.say(this,
+                           customer
+                               ? u"SİPARİŞİN MÜŞTERİSİ TANIMLI DEĞİL, SİPARİŞ KAYDEDİLEMEZ..."_s
+                               : u"SİPARİŞ BAŞLIK KAYDINA ULAŞILAMIYOR..."_s,
+                           MessageIcon::Critical, u"HATA"_s);
+    return false;
+}
+
+void Giris_Siparis::showNumber(const Siparis &siparis)
+{
+    if (siparis.Sipnum == 0)
+        return;
+    m_stored = siparis.Sipnum;
+    m_ui->Sipnum->setText(QString::number(siparis.Sipnum));
+}
+
+void Giris_Siparis::save()
+{
+    if (!m_ui->Rapor->finishEdit())
+        return;
+    Siparis siparis = collect();
+    if (!check(siparis) || !holdsOwnNumber())
+        return;
+    try {
+        if (!m_store.save(siparis)) {
+            m_context.messages.say(this, u"SİPARİŞ BAŞLIK KAYDINA ULAŞILAMIYOR..."_s,
+                                   MessageIcon::Critical, u"HATA"_s);
+            return;
+        }
+    } catch (...) {
+        // The header may be on disk already; the next save goes on from there.
+        showNumber(siparis);
+        throw;
+    }
+    showNumber(siparis);
+    afterSave(siparis);
+}
+
+void Giris_Siparis::saveAsNew()
+{
+    if (!m_ui->Rapor->finishEdit())
+        return;
+    Siparis siparis = collect();
+    if (!check(siparis))
+        return;
+    const std::optional<QString> answer =
+        m_context.messages.input(this, u"SİPARİŞ TARİHİ"_s, u"SİPARİŞ TARİH BİLGİSİ"_s,
+                                 formatDate(m_context.oturum.CalismaTarihi));
+    if (!answer)
+        return;
+    const QDate date = parseDate(*answer);
+    if (!date.isValid()) {
+        m_context.messages.say(this, u"HATALI TARIH BILGISI GIRILIYOR!"_s, MessageIcon::Exclamation,
+                               u"HATA"_s);
+        return;
+    }
+    try {
+        m_store.saveAsNew(siparis, date);
+    } catch (...) {
+        // With its header on disk, the copy is what the next save completes.
+        if (siparis.Sipnum != 0)
+            SiparisDoldur(siparis);
+        throw;
+    }
+    showNumber(siparis);
+    afterSave(siparis);
+}
+
+void Giris_Siparis::afterSave(const Siparis &siparis)
+{
+    guarded(m_context.messages, this, [&] {
+        if (m_context.messages.ask(this, u"SİPARİŞ LİSTESİ ALINSIN ..!"_s,
+                                   MessageIcon::Exclamation))
+            showSlip(siparis);
+    });
+    TusKapa();
+}
+
+void Giris_Siparis::removeOrder()
+{
+    if (!m_context.messages.ask(this, m_ui->Sipnum->text() + u" NOLU SİPARİŞ SİLİNECEK."_s,
+                                MessageIcon::Exclamation, {}, MessageAnswer::No))
+        return;
+    m_store.remove(m_stored);
+    TusKapa();
+}
+
+void Giris_Siparis::print()
+{
+    if (m_ui->Rapor->finishEdit())
+        showSlip(collect());
+}
+
+void Giris_Siparis::showSlip(const Siparis &siparis)
+{
+    const MusteriKimligi identity = m_ui->Check_AD->isChecked()    ? MusteriKimligi::Ad
+                                    : m_ui->Check_Kod->isChecked() ? MusteriKimligi::Kod
+                                                                   : MusteriKimligi::Kisa;
+    const double grams = toplamGram(m_context.oturum, siparis);
+    m_context.viewer.show(this, siparisFisi(siparis, identity, grams));
+}

@@ -1,0 +1,99 @@
+#include "ModelEntry.h"
+
+#include "Guarded.h"
+#include "ProductLabel.h"
+#include "SiparisModel.h"
+#include "TurkishText.h"
+
+#include <QApplication>
+
+using namespace Qt::StringLiterals;
+
+ModelEntry::ModelEntry(const OrderScreenContext &context, SiparisGrid *grid, SiparisModel *model)
+    : QObject(grid), m_context(context), m_lookups(context.oturum), m_grid(grid), m_model(model)
+{
+    grid->setModelEntry([this](const QString &text) { return enter(text); });
+}
+
+void ModelEntry::setQuickEntry(bool on)
+{
+    m_quickEntry = on;
+    m_unknownLabels.clear();
+    m_grid->setQuickEntry(on);
+}
+
+ModelOutcome ModelEntry::enter(const QString &text)
+{
+    ModelOutcome result = ModelOutcome::Refused;
+    guarded(m_context.messages, m_grid->window(), [&] { result = take(text); });
+    return result;
+}
+
+ModelOutcome ModelEntry::take(const QString &text)
+{
+    const int row = m_grid->currentIndex().row();
+    warn({});
+    std::optional<FoundModel> found;
+    if (!text.isEmpty())
+        found = m_lookups.model(text);
+    if (!found && m_quickEntry && readLabel(text)) {
+        m_unknownLabels.append(text);
+        warn(u"ETİKET BULUNAMADI"_s);
+        return ModelOutcome::Refused;
+    }
+    if (!found)
+        found = pickFromList(text);
+    if (!found)
+        return ModelOutcome::Refused;
+    putIntoRow(row, *found);
+    Q_EMIT modelTaken(found->Model);
+    GridKontrol(row);
+    return found->KisaAD.isEmpty() ? ModelOutcome::Taken : ModelOutcome::Counted;
+}
+
+std::optional<FoundModel> ModelEntry::pickFromList(const QString &filter) const
+{
+    const LookupAnswer answer =
+        m_context.openList(m_grid->window(), {u"Siparis Model Listesi"_s, filter});
+    if (answer.Secilen.isEmpty())
+        return std::nullopt;
+    return FoundModel{answer.Secilen, {}};
+}
+
+void ModelEntry::putIntoRow(int row, const FoundModel &found)
+{
+    const QStringList types = m_lookups.typesOfModel(found.Model);
+    m_model->setData(m_model->index(row, SiparisModel::modelColumn), found.Model);
+    const QModelIndex colour = m_model->index(row, SiparisModel::colourColumn);
+    if (!m_fixedColour.isEmpty() && m_model->satir(row).renk.isEmpty())
+        m_model->setData(colour, m_fixedColour);
+    m_model->SatirKitle(row, types, found.KisaAD, found.KisaAD.isEmpty() ? 0 : 1);
+}
+
+/// Warns of a model that stands in a row above; it never refuses.
+void ModelEntry::GridKontrol(int row)
+{
+    const QString warning = u"TABLODA KAYIT MEVCUT!"_s;
+    for (int above = 0; above < row; ++above) {
+        if (!sameText(m_model->satir(above).model, m_model->satir(row).model))
+            continue;
+        if (m_quickEntry)
+            warn(warning + u"  "_s + m_model->satir(row).model);
+        else
+            m_context.messages.say(m_grid->window(), warning, MessageIcon::Exclamation);
+        return;
+    }
+}
+
+void ModelEntry::warn(const QString &text)
+{
+    if (!text.isEmpty())
+        QApplication::beep();
+    QStringList lines;
+    if (!text.isEmpty())
+        lines.append(text);
+    // A lost scan must still be seen after the scans that follow it.
+    if (!m_unknownLabels.isEmpty())
+        lines.append(u"Bulunamayan etiketler: "_s + m_unknownLabels.join(u", "_s));
+    Q_EMIT warning(lines.join(u'\n'));
+}

@@ -1,0 +1,300 @@
+#include "SiparisGrid.h"
+
+#include "CellEditors.h"
+#include "OrderCellDelegate.h"
+#include "ProductLabel.h"
+#include "SiparisModel.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+namespace {
+
+constexpr int labelLength = 13;
+constexpr int quantityDigits = 9; // what a whole number field always holds
+/// Within this time after a label an Enter is the scanner's, not the user's.
+constexpr qint64 scannerEnterMs = 300;
+
+bool isEnter(const QKeyEvent *event)
+{
+    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+}
+
+} // namespace
+
+SiparisGrid::SiparisGrid(QWidget *parent) : QTableView(parent), m_editors(new CellEditors(this))
+{
+    for (QWidget *editor : viewport()->findChildren<QWidget *>(Qt::FindDirectChildrenOnly))
+        editor->installEventFilter(this);
+    connect(m_editors, &CellEditors::edited, this, &SiparisGrid::labelTyped);
+    setItemDelegate(new OrderCellDelegate(this));
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(SingleSelection);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    connect(this, &QTableView::clicked, this, [this](const QModelIndex &cell) {
+        if (finishEdit())
+            startEditor(cell);
+    });
+    for (const QScrollBar *bar : {verticalScrollBar(), horizontalScrollBar()})
+        connect(bar, &QScrollBar::valueChanged, m_editors, &CellEditors::place);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, m_editors, &CellEditors::place);
+}
+
+void SiparisGrid::setSiparisModel(SiparisModel *model)
+{
+    m_model = model;
+    setModel(model);
+    connect(model, &SiparisModel::modelAboutToBeReset, this, &SiparisGrid::abandonEdit);
+}
+
+void SiparisGrid::setColours(const QStringList &colours)
+{
+    m_editors->setColours(colours);
+}
+
+void SiparisGrid::setLimits(int modelCharacters, int noteCharacters)
+{
+    // A scanned label must fit in also where model codes are short.
+    m_modelCharacters = modelCharacters == 0 ? 0 : std::max(modelCharacters, labelLength);
+    m_noteCharacters = noteCharacters;
+}
+
+void SiparisGrid::goTo(int row, int column)
+{
+    setCurrentIndex(m_model->index(row, column));
+    scrollTo(currentIndex());
+}
+
+void SiparisGrid::goToEmptyRow()
+{
+    int row = 0;
+    while (row < m_model->rowCount() && !m_model->satir(row).model.isEmpty())
+        ++row;
+    if (row == m_model->rowCount())
+        m_model->addRow();
+    goTo(row, SiparisModel::modelColumn);
+}
+
+void SiparisGrid::SatirAc()
+{
+    const int last = m_model->rowCount() - 1;
+    const SiparisSatiri &row = m_model->satir(last);
+    if (row.model.isEmpty())
+        goTo(last, SiparisModel::modelColumn);
+    else if (!row.renk.isEmpty())
+        goToNextRow(last);
+}
+
+void SiparisGrid::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    spreadColumns();
+    m_editors->place();
+}
+
+/// Columns as wide as what they hold usually needs; the note gets the rest.
+void SiparisGrid::spreadColumns()
+{
+    if (m_model == nullptr)
+        return;
+    const int digit = fontMetrics().horizontalAdvance(u'0');
+    const int note = m_model->noteColumn();
+    int others = 0;
+    for (int column = 0; column < m_model->columnCount(); ++column) {
+        if (column == note)
+            continue;
+        const int characters = column == SiparisModel::modelColumn ? 18 : (column > note ? 12 : 6);
+        const int heading = horizontalHeader()->sectionSizeHint(column);
+        setColumnWidth(column, std::max(heading, characters * digit));
+        others += columnWidth(column);
+    }
+    setColumnWidth(note, std::max(14 * digit, viewport()->width() - others));
+}
+
+bool SiparisGrid::hasUnfinishedText() const
+{
+    return m_editors->isOpen() && m_editors->isChanged();
+}
+
+void SiparisGrid::abandonEdit()
+{
+    m_editors->close();
+}
+
+bool SiparisGrid::finishEdit()
+{
+    if (!m_editors->isOpen())
+        return true;
+    if (m_taking)
+        return false;
+    m_outcome = ModelOutcome::Taken;
+    const QModelIndex cell = m_editors->cell();
+    if (cell.column() == SiparisModel::modelColumn) {
+        const QString text = m_editors->text().trimmed();
+        if (text != m_model->satir(cell.row()).model)
+            return takeModel(text);
+    } else if (m_editors->isChanged()) {
+        m_model->setData(cell, m_editors->text());
+    }
+    m_editors->close();
+    return true;
+}
+
+bool SiparisGrid::takeModel(const QString &text)
+{
+    m_taking = true;
+    // The editor's row is the current one, wherever the mouse was pressed.
+    setCurrentIndex(m_editors->cell());
+    m_outcome = m_take(text);
+    m_taking = false;
+    if (m_outcome == ModelOutcome::Refused) {
+        m_editors->selectAll();
+        return false;
+    }
+    m_editors->close();
+    return true;
+}
+
+void SiparisGrid::startEditor(const QModelIndex &cell, const QString &typed)
+{
+    if (!m_model->isOpen(cell))
+        return;
+    setCurrentIndex(cell);
+    using Kind = CellEditors::Kind;
+    if (cell.column() == SiparisModel::colourColumn)
+        m_editors->open(cell, Kind::Colour, 0, typed);
+    else if (m_model->isQuantity(cell.column()))
+        m_editors->open(cell, Kind::Quantity, quantityDigits, typed);
+    else if (cell.column() == SiparisModel::modelColumn)
+        m_editors->open(cell, Kind::Text, m_modelCharacters, typed);
+    else
+        m_editors->open(cell, Kind::Text, m_noteCharacters, typed);
+}
+
+bool SiparisGrid::startsEditor(const QKeyEvent *event) const
+{
+    return CellEditors::types(event) && m_model->isOpen(currentIndex()) &&
+           (!m_model->isQuantity(currentIndex().column()) || event->text().front().isDigit());
+}
+
+void SiparisGrid::keyPressEvent(QKeyEvent *event)
+{
+    // An editor that was left with a text not yet taken is finished first.
+    const QModelIndex cell = currentIndex();
+    if (isEnter(event) || event->key() == Qt::Key_F2) {
+        if (!isScannerEnter(event) && finishEdit())
+            startEditor(cell);
+    } else if (event->key() == Qt::Key_Insert) {
+        if (finishEdit())
+            SatirAc();
+    } else if (event->key() == Qt::Key_Delete) {
+        if (cell.isValid() && finishEdit())
+            Q_EMIT rowRemovalAsked(cell.row());
+    } else if (event->key() == Qt::Key_Escape) {
+        Q_EMIT abandoned();
+    } else if (startsEditor(event)) {
+        if (finishEdit())
+            startEditor(cell, event->text());
+    } else if (!CellEditors::types(event)) {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+bool SiparisGrid::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched != m_editors->editor())
+        return QTableView::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress)
+        return editorKey(static_cast<QKeyEvent *>(event));
+    if (event->type() == QEvent::FocusOut) {
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+            editorLeft();
+    }
+    return false;
+}
+
+bool SiparisGrid::editorKey(QKeyEvent *event)
+{
+    const QModelIndex cell = m_editors->cell();
+    const bool colour = cell.column() == SiparisModel::colourColumn;
+    if (isEnter(event) || event->key() == Qt::Key_Tab) {
+        // Enter without a code asks for the list of models.
+        const bool list = isEnter(event) && cell.column() == SiparisModel::modelColumn &&
+                          m_editors->text().trimmed().isEmpty();
+        if (!isScannerEnter(event) && (list ? takeModel({}) : finishEdit()))
+            goOn(cell);
+    } else if (event->key() == Qt::Key_Backtab) {
+        if (finishEdit())
+            goTo(cell.row(), std::max(0, cell.column() - 1));
+    } else if (event->key() == Qt::Key_Escape) {
+        m_editors->close();
+    } else if (!colour && (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)) {
+        const int row = cell.row() + (event->key() == Qt::Key_Up ? -1 : 1);
+        if (finishEdit() && m_model->hasIndex(row, cell.column()))
+            goTo(row, cell.column());
+    } else {
+        return colour && m_editors->typeColour(event);
+    }
+    return true;
+}
+
+/// The focus went to another control: what was typed is taken, except that a
+/// model is only looked up when the user goes on in the grid or saves.
+void SiparisGrid::editorLeft()
+{
+    const bool model = m_editors->cell().column() == SiparisModel::modelColumn;
+    if (!m_taking && !(model && m_editors->isChanged()))
+        finishEdit();
+}
+
+void SiparisGrid::labelTyped(const QString &text)
+{
+    const QModelIndex cell = m_editors->cell();
+    if (!m_quickEntry || cell.column() != SiparisModel::modelColumn || !readLabel(text))
+        return;
+    if (takeModel(text))
+        goOn(cell);
+    m_sinceLabel.start();
+}
+
+/// A scanner that sends Enter behind the label must not start anything with it.
+bool SiparisGrid::isScannerEnter(const QKeyEvent *event)
+{
+    if (!m_sinceLabel.isValid())
+        return false;
+    const bool its = isEnter(event) && m_sinceLabel.elapsed() < scannerEnterMs;
+    m_sinceLabel.invalidate();
+    return its;
+}
+
+void SiparisGrid::goOn(const QModelIndex &from)
+{
+    const int row = from.row();
+    if (from.column() == SiparisModel::modelColumn && m_outcome == ModelOutcome::Counted) {
+        goToNextRow(row);
+        return;
+    }
+    const SiparisSatiri &satir = m_model->satir(row);
+    if (from.column() == m_model->noteColumn()) {
+        const bool isLast = row + 1 == m_model->rowCount();
+        if (!isLast || (!satir.model.isEmpty() && !satir.renk.isEmpty()))
+            goToNextRow(row);
+        return;
+    }
+    int column = from.column() + 1;
+    if (column == SiparisModel::colourColumn && !satir.renk.isEmpty())
+        ++column;
+    while (m_model->isQuantity(column) && !m_model->isYellow(row, column))
+        ++column;
+    goTo(row, column);
+}
+
+void SiparisGrid::goToNextRow(int row)
+{
+    if (row + 1 == m_model->rowCount())
+        m_model->addRow();
+    goTo(row + 1, SiparisModel::modelColumn);
+}

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <functional>
+#include <QElapsedTimer>
+#include <QTableView>
+
+class CellEditors;
+class SiparisModel;
+
+/// What became of a text entered as a model.
+enum class ModelOutcome {
+    Refused, ///< not taken; the editor stays open with it
+    Taken,   ///< taken: the row goes on to its colour and quantities
+    Counted  ///< a label that counted a piece: on to the next row's model
+};
+
+/// The order's grid. Enter goes on from cell to cell, typing on a cell starts
+/// its editor, and a barcode scanner counts as a fast keyboard.
+class SiparisGrid : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit SiparisGrid(QWidget *parent = nullptr);
+
+    void setSiparisModel(SiparisModel *model);
+    void setColours(const QStringList &colours);
+    /// How many characters the fields of model and note take; 0 is no limit.
+    void setLimits(int modelCharacters, int noteCharacters);
+    /// Who takes a text that was entered as the current row's model.
+    void setModelEntry(std::function<ModelOutcome(const QString &)> take) { m_take = take; }
+    /// Labels are taken as soon as they are complete, without Enter.
+    void setQuickEntry(bool on) { m_quickEntry = on; }
+
+    void goTo(int row, int column);
+    /// To the first row without a model; adds one where none is left.
+    void goToEmptyRow();
+    /// Finishes an open editor; false when its text was not taken.
+    bool finishEdit();
+    /// Closes the editor and leaves the cell as it was.
+    void abandonEdit();
+    /// An editor is open and holds what its cell does not have yet.
+    bool hasUnfinishedText() const;
+    /// Opens a new row behind the last one, once that has model and colour.
+    void SatirAc();
+
+Q_SIGNALS:
+    void rowRemovalAsked(int row);
+    void abandoned();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void spreadColumns();
+    void startEditor(const QModelIndex &cell, const QString &typed = {});
+    bool startsEditor(const QKeyEvent *event) const;
+    bool editorKey(QKeyEvent *event);
+    void editorLeft();
+    void labelTyped(const QString &text);
+    bool takeModel(const QString &text);
+    bool isScannerEnter(const QKeyEvent *event);
+    void goOn(const QModelIndex &from);
+    void goToNextRow(int row);
+
+    SiparisModel *m_model = nullptr;
+    CellEditors *m_editors;
+    std::function<ModelOutcome(const QString &)> m_take;
+    ModelOutcome m_outcome = ModelOutcome::Taken;
+    int m_modelCharacters = 0;
+    int m_noteCharacters = 0;
+    bool m_quickEntry = false;
+    bool m_taking = false;
+    QElapsedTimer m_sinceLabel; ///< runs from a label that was taken without Enter
+};
