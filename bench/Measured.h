@@ -1,0 +1,14 @@
+#pragma once
+
+#include <functional>
+#include <QString>
+
+/// Runs the work several times and gives the middle of its durations, in
+/// milliseconds. prepare runs before each, outside the time.
+double middleMilliseconds(int runs, const std::function<void()> &work,
+                          const std::function<void()> &prepare = {});
+
+/// One line of a result: what was measured, how long it took, and how many
+/// times as long as the baseline that is.
+void printMeasured(const QString &what, double milliseconds);
+void printRatio(const QString &what, double milliseconds, double baseline);
