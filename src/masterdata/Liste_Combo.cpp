@@ -151,7 +151,7 @@ void Liste_Combo::setUpSize()
                                           m_ui->Resim->sizeHint().width())
                                  : 0;
     resize(QSize(grid + picture + besides, 620).expandedTo(QSize(440, 0)).boundedTo(room));
-    m_ui->splitter->setSizes({width() - picture - besides, picture});
+    m_ui->splitter->setSizes({width() - margins.left() - margins.right() - picture, picture});
     m_ui->splitter->setStretchFactor(0, 1);
     m_ui->splitter->setStretchFactor(1, 1);
 }
