@@ -1,5 +1,6 @@
 #include "KuyumStyle.h"
 
+#include "StylePainting.h"
 #include "Theme.h"
 
 #include <QPainter>
@@ -9,66 +10,18 @@
 
 using namespace Qt::StringLiterals;
 
-static constexpr double corner = 5;
 static constexpr int lowestControl = 34;
 
 KuyumStyle::KuyumStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
 
 static constexpr int textIndent = 4;
+static constexpr int shortestHandle = 32;
 
 /// An editor inside a grid cell takes the cell's size.
 static bool isInCell(const QWidget *widget)
 {
     return widget != nullptr && widget->parentWidget() != nullptr &&
            widget->parentWidget()->objectName() == "qt_scrollarea_viewport"_L1;
-}
-
-/// The button that Enter presses: filled with gold.
-static bool isDefaultButton(const QStyleOption *option)
-{
-    const auto *button = qstyleoption_cast<const QStyleOptionButton *>(option);
-    return button != nullptr && button->features.testFlag(QStyleOptionButton::DefaultButton) &&
-           button->state.testFlag(QStyle::State_Enabled);
-}
-
-static void drawPanel(QPainter *painter, const QRect &rect, const QColor &fill, const QPen &edge)
-{
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(edge);
-    painter->setBrush(fill);
-    const double inset = edge.widthF() / 2;
-    painter->drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), corner, corner);
-    painter->restore();
-}
-
-static void drawLinePanel(const QStyleOption *option, QPainter *painter)
-{
-    const bool focused = option->state.testFlag(QStyle::State_HasFocus);
-    const QColor edge =
-        focused ? themeColors(option->palette).accent : option->palette.color(QPalette::Mid);
-    drawPanel(painter, option->rect, option->palette.color(QPalette::Base),
-              QPen(edge, focused ? 2 : 1));
-}
-
-static void drawButtonPanel(const QStyleOption *option, QPainter *painter)
-{
-    const ThemeColors colors = themeColors(option->palette);
-    const bool enabled = option->state.testFlag(QStyle::State_Enabled);
-    const bool pressed = option->state.testAnyFlags(QStyle::State_Sunken | QStyle::State_On);
-    const bool focused = enabled && option->state.testFlag(QStyle::State_HasFocus);
-    const bool gold = isDefaultButton(option);
-
-    QColor fill = gold ? colors.accent : option->palette.color(QPalette::Button);
-    if (pressed)
-        fill = colors.dark && !gold ? fill.lighter(140) : fill.darker(112);
-    else if (enabled && option->state.testFlag(QStyle::State_MouseOver))
-        fill = colors.dark ? fill.lighter(118) : fill.darker(gold ? 94 : 104);
-    QColor edge = gold ? colors.accent.darker(115) : option->palette.color(QPalette::Mid);
-    if (focused)
-        edge = gold ? option->palette.color(QPalette::WindowText) : colors.accent;
-
-    drawPanel(painter, option->rect, fill, QPen(edge, focused ? 2 : 1));
 }
 
 void KuyumStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *option,
@@ -88,37 +41,65 @@ void KuyumStyle::drawPrimitive(PrimitiveElement element, const QStyleOption *opt
         drawLinePanel(option, painter);
         return;
     }
-    case PE_FrameFocusRect: {
-        painter->save();
-        painter->setRenderHint(QPainter::Antialiasing);
-        painter->setPen(QPen(themeColors(option->palette).accent, 1.5));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRoundedRect(QRectF(option->rect).adjusted(1, 1, -1, -1), 3, 3);
-        painter->restore();
+    case PE_Frame:
+        drawViewFrame(option, painter);
         return;
-    }
+    case PE_FrameFocusRect:
+        drawFocusRing(option, painter);
+        return;
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorItemViewItemCheck:
+        drawCheckBox(option, painter);
+        return;
+    case PE_IndicatorRadioButton:
+        drawRadioButton(option, painter);
+        return;
     default:
         break;
     }
     QProxyStyle::drawPrimitive(element, option, painter, widget);
 }
 
+void KuyumStyle::drawArrow(PrimitiveElement arrow, SubControl part,
+                           const QStyleOptionComplex *option, QPainter *painter,
+                           const QWidget *widget) const
+{
+    constexpr int side = 14;
+    const ComplexControl control = part == SC_ComboBoxArrow ? CC_ComboBox : CC_SpinBox;
+    QStyleOption place = *option;
+    const QPoint centre = subControlRect(control, option, part, widget).center();
+    place.rect = QRect(centre - QPoint(side / 2, side / 2), QSize(side, side));
+    drawPrimitive(arrow, &place, painter, widget);
+}
+
 void KuyumStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex *option,
                                     QPainter *painter, const QWidget *widget) const
 {
-    const auto *list = qstyleoption_cast<const QStyleOptionComboBox *>(option);
-    if (control != CC_ComboBox || list == nullptr || list->editable || isInCell(widget)) {
-        QProxyStyle::drawComplexControl(control, option, painter, widget);
+    if (const auto *bar = qstyleoption_cast<const QStyleOptionSlider *>(option);
+        control == CC_ScrollBar && bar != nullptr) {
+        drawScrollBar(bar, subControlRect(control, option, SC_ScrollBarSlider, widget), painter);
         return;
     }
-    QStyleOptionButton panel;
-    panel.QStyleOption::operator=(*option);
-    drawButtonPanel(&panel, painter);
-    QStyleOption arrow = *option;
-    arrow.rect = subControlRect(control, option, SC_ComboBoxArrow, widget);
-    const int inset = (arrow.rect.height() - 14) / 2;
-    arrow.rect.adjust(0, inset, 0, -inset);
-    drawPrimitive(PE_IndicatorArrowDown, &arrow, painter, widget);
+    const auto *list = qstyleoption_cast<const QStyleOptionComboBox *>(option);
+    if (control == CC_ComboBox && list != nullptr && !isInCell(widget)) {
+        QStyleOptionButton panel;
+        panel.QStyleOption::operator=(*option);
+        if (list->editable)
+            drawLinePanel(option, painter);
+        else
+            drawButtonPanel(&panel, painter);
+        drawArrow(PE_IndicatorArrowDown, SC_ComboBoxArrow, option, painter, widget);
+        return;
+    }
+    if (control == CC_SpinBox && !isInCell(widget)) {
+        drawLinePanel(option, painter);
+        if (option->subControls.testFlag(SC_SpinBoxUp)) {
+            drawArrow(PE_IndicatorArrowUp, SC_SpinBoxUp, option, painter, widget);
+            drawArrow(PE_IndicatorArrowDown, SC_SpinBoxDown, option, painter, widget);
+        }
+        return;
+    }
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
 void KuyumStyle::drawControl(ControlElement element, const QStyleOption *option, QPainter *painter,
@@ -131,6 +112,11 @@ void KuyumStyle::drawControl(ControlElement element, const QStyleOption *option,
         QStyleOptionButton label = *button;
         label.rect = subElementRect(SE_PushButtonContents, option, widget);
         drawControl(CE_PushButtonLabel, &label, painter, widget);
+        return;
+    }
+    if (const auto *header = qstyleoption_cast<const QStyleOptionHeader *>(option);
+        element == CE_HeaderSection && header != nullptr) {
+        drawHeaderSection(header, painter);
         return;
     }
     if (element == CE_PushButtonLabel && isDefaultButton(option)) {
@@ -154,6 +140,15 @@ int KuyumStyle::pixelMetric(PixelMetric metric, const QStyleOption *option,
     case PM_LayoutTopMargin:
     case PM_LayoutBottomMargin:
         return 14;
+    case PM_ScrollBarExtent:
+        return 13;
+    case PM_ScrollBarSliderMin:
+        return shortestHandle;
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return 18;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;
@@ -189,9 +184,44 @@ QRect KuyumStyle::subElementRect(SubElement element, const QStyleOption *option,
     return rect;
 }
 
+/// Without arrows at its ends the bar is all groove.
+static QRect scrollBarPart(const QStyleOptionSlider *bar, QStyle::SubControl part)
+{
+    const QRect &rect = bar->rect;
+    const bool upright = bar->orientation == Qt::Vertical;
+    const int length = upright ? rect.height() : rect.width();
+    const qint64 range = qint64(bar->maximum) - bar->minimum;
+    int handle = length;
+    if (range > 0) {
+        handle = int(length * qint64(bar->pageStep) / (range + bar->pageStep));
+        handle = qBound(qMin(shortestHandle, length), handle, length);
+    }
+    const int start = QStyle::sliderPositionFromValue(
+        bar->minimum, bar->maximum, bar->sliderPosition, length - handle, bar->upsideDown);
+    const auto stretch = [&](int from, int to) {
+        return upright ? QRect(rect.left(), rect.top() + from, rect.width(), to - from)
+                       : QRect(rect.left() + from, rect.top(), to - from, rect.height());
+    };
+    switch (part) {
+    case QStyle::SC_ScrollBarSlider:
+        return stretch(start, start + handle);
+    case QStyle::SC_ScrollBarSubPage:
+        return stretch(0, start);
+    case QStyle::SC_ScrollBarAddPage:
+        return stretch(start + handle, length);
+    case QStyle::SC_ScrollBarGroove:
+        return rect;
+    default:
+        return {};
+    }
+}
+
 QRect KuyumStyle::subControlRect(ComplexControl control, const QStyleOptionComplex *option,
                                  SubControl part, const QWidget *widget) const
 {
+    if (const auto *bar = qstyleoption_cast<const QStyleOptionSlider *>(option);
+        control == CC_ScrollBar && bar != nullptr)
+        return scrollBarPart(bar, part);
     const QRect rect = QProxyStyle::subControlRect(control, option, part, widget);
     if (control == CC_ComboBox && part == SC_ComboBoxEditField && !isInCell(widget))
         return rect.adjusted(textIndent, 0, 0, 0);
@@ -204,5 +234,7 @@ int KuyumStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWid
     // Alt shows nothing new: the marked letters are always to be seen.
     if (hint == SH_UnderlineShortcut)
         return 1;
+    if (hint == SH_Table_GridLineColor && option != nullptr)
+        return int(option->palette.color(QPalette::Mid).rgba());
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }

@@ -27,4 +27,8 @@ public:
                          const QWidget *widget) const override;
     int styleHint(StyleHint hint, const QStyleOption *option, const QWidget *widget,
                   QStyleHintReturn *returnData) const override;
+
+private:
+    void drawArrow(PrimitiveElement arrow, SubControl part, const QStyleOptionComplex *option,
+                   QPainter *painter, const QWidget *widget) const;
 };
