@@ -1,0 +1,5 @@
+#pragma once
+
+/// From now on the process ends, successfully, as soon as a window has been
+/// painted. Needs a QApplication.
+void endAtFirstPaint();
