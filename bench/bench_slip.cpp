@@ -53,7 +53,7 @@ Siparis makeOrder()
     for (int type = 1; type <= typeCount; ++type)
         order.tipler.append({type, u"Tip"_s, u"T%1"_s.arg(type)});
     for (int i = 0; i < lineCount; ++i) {
-        SiparisSatiri row = SiparisSatiri::bos(typeCount);
+        SiparisSatiri row = SiparisSatiri::empty(typeCount);
         row.model = modelName(i * 7);
         row.renk = u"SR"_s;
         row.adetler[i % typeCount] = i % 20 + 1;
