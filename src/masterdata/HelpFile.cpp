@@ -53,7 +53,7 @@ QString HelpFile::append(QDate date, const QString &text)
     const TextCode code = textCodeOf(present);
     const QString lineEnd = present.contains("\r\n") ? u"\r\n"_s : u"\n"_s;
     const bool openEnd = !present.isEmpty() && !present.endsWith('\n');
-    const QString line = formatDate(date) + u"  "_s + text;
+    QString line = formatDate(date) + u"  "_s + text;
     const QString added = (openEnd ? lineEnd : QString()) + line + lineEnd;
 
     const std::optional<QByteArray> encoded = encodedText(added, code);

@@ -29,7 +29,7 @@ bool isPlainName(const QString &name)
 /// The entry of that name without regard to case; empty when there is none.
 QString entryIn(const QString &folder, const QString &name, QDir::Filter kind)
 {
-    const QString exact = folder + u'/' + name;
+    QString exact = folder + u'/' + name;
     const QFileInfo info(exact);
     if (kind == QDir::Dirs ? info.isDir() : info.isFile())
         return exact;
