@@ -11,6 +11,7 @@
 
 #include <QButtonGroup>
 #include <QKeyEvent>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +26,7 @@ Giris_Siparis::Giris_Siparis(const OrderScreenContext &context, QWidget *parent)
     m_ui->setupUi(this);
     m_ui->Rapor->setSiparisModel(m_model);
     m_modelEntry = new ModelEntry(m_context, m_ui->Rapor, m_model);
+    setUpLook();
     fillChoices();
     limitEntries();
     connectControls();
@@ -33,6 +35,26 @@ Giris_Siparis::Giris_Siparis(const OrderScreenContext &context, QWidget *parent)
 }
 
 Giris_Siparis::~Giris_Siparis() = default;
+
+void Giris_Siparis::setUpLook()
+{
+    // An order wants width and height; a quarter of the largest screens is enough.
+    constexpr QSize wanted(1500, 950);
+    constexpr QSize windowFrame(10, 60);
+    resize(wanted.boundedTo(screen()->availableSize() - windowFrame));
+    QPalette warning = m_ui->warningLine->palette();
+    warning.setColor(QPalette::WindowText, themeColors(palette()).mark);
+    m_ui->warningLine->setPalette(warning);
+    m_ui->keptLinesNote->setPalette(warning);
+    QFont bold = font();
+    bold.setBold(true);
+    m_ui->warningLine->setFont(bold);
+    // What is shown only does not look like a box to type in.
+    QPalette shown = palette();
+    shown.setColor(QPalette::Base, shown.color(QPalette::Window));
+    m_ui->Firkod->setPalette(shown);
+    m_ui->KisaAD->setPalette(shown);
+}
 
 void Giris_Siparis::fillChoices()
 {
@@ -44,14 +66,6 @@ void Giris_Siparis::fillChoices()
     auto *identity = new QButtonGroup(this);
     for (QCheckBox *box : {m_ui->Check_Kisaad, m_ui->Check_Kod, m_ui->Check_AD})
         identity->addButton(box);
-
-    QPalette warning = m_ui->warningLine->palette();
-    warning.setColor(QPalette::WindowText, themeColors(palette()).mark);
-    m_ui->warningLine->setPalette(warning);
-    m_ui->keptLinesNote->setPalette(warning);
-    QFont bold = font();
-    bold.setBold(true);
-    m_ui->warningLine->setFont(bold);
 }
 
 /// No box takes more than its field does, so that a save never refuses a text.

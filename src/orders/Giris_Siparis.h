@@ -36,6 +36,7 @@ private:
     void bind(QWidget *button, Action action);
     void connectControls();
     void connectGrid();
+    void setUpLook();
     void fillChoices();
     void limitEntries();
     void enterPressed();

@@ -1,5 +1,6 @@
 #include "OrderCellDelegate.h"
 
+#include <QAbstractItemView>
 #include <QPainter>
 
 void OrderCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
@@ -7,16 +8,16 @@ void OrderCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
 {
     constexpr int frame = 3;
     QStyleOptionViewItem plain = option;
-    const bool current = option.state.testFlag(QStyle::State_Selected);
-    plain.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_MouseOver);
+    plain.state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver);
     QStyledItemDelegate::paint(painter, plain, index);
-    if (!current)
+
+    const auto *grid = qobject_cast<const QAbstractItemView *>(option.widget);
+    if (grid == nullptr || index != grid->currentIndex())
         return;
     const bool coloured = index.data(Qt::BackgroundRole).isValid();
-    const bool focused = option.state.testFlag(QStyle::State_HasFocus);
     QColor color = coloured ? QColor(Qt::black) : option.palette.color(QPalette::Highlight);
-    if (!focused)
-        color.setAlpha(100);
+    if (!option.state.testFlag(QStyle::State_HasFocus))
+        color.setAlpha(90);
     painter->save();
     painter->setPen(QPen(color, frame, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter->drawRect(option.rect.adjusted(frame / 2, frame / 2, -frame / 2 - 1, -frame / 2 - 1));

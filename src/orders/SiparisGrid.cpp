@@ -30,9 +30,10 @@ SiparisGrid::SiparisGrid(QWidget *parent) : QTableView(parent), m_editors(new Ce
     connect(m_editors, &CellEditors::edited, this, &SiparisGrid::labelTyped);
     setItemDelegate(new OrderCellDelegate(this));
     setEditTriggers(NoEditTriggers);
-    setSelectionMode(SingleSelection);
+    setSelectionMode(NoSelection);
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
     connect(this, &QTableView::clicked, this, [this](const QModelIndex &cell) {
         if (finishEdit())
             startEditor(cell);
@@ -94,6 +95,16 @@ void SiparisGrid::resizeEvent(QResizeEvent *event)
     m_editors->place();
 }
 
+int SiparisGrid::usualCharacters(int column) const
+{
+    if (column == SiparisModel::modelColumn)
+        return 16;
+    if (column <= m_model->noteColumn())
+        return 5;
+    const bool date = column > m_model->noteColumn() + 2;
+    return date ? 10 : 16;
+}
+
 /// Columns as wide as what they hold usually needs; the note gets the rest.
 void SiparisGrid::spreadColumns()
 {
@@ -105,12 +116,11 @@ void SiparisGrid::spreadColumns()
     for (int column = 0; column < m_model->columnCount(); ++column) {
         if (column == note)
             continue;
-        const int characters = column == SiparisModel::modelColumn ? 18 : (column > note ? 12 : 6);
         const int heading = horizontalHeader()->sectionSizeHint(column);
-        setColumnWidth(column, std::max(heading, characters * digit));
+        setColumnWidth(column, std::max(heading, usualCharacters(column) * digit));
         others += columnWidth(column);
     }
-    setColumnWidth(note, std::max(14 * digit, viewport()->width() - others));
+    setColumnWidth(note, std::max(16 * digit, viewport()->width() - others));
 }
 
 bool SiparisGrid::hasUnfinishedText() const

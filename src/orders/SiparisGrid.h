@@ -54,6 +54,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    int usualCharacters(int column) const;
     void spreadColumns();
     void startEditor(const QModelIndex &cell, const QString &typed = {});
     bool startsEditor(const QKeyEvent *event) const;

@@ -140,6 +140,9 @@ QVariant SiparisModel::data(const QModelIndex &cell, int role) const
     case Qt::DisplayRole:
     case Qt::EditRole:
         return text(m_rows[cell.row()], cell.column());
+    case Qt::ToolTipRole:
+        // Notes and statuses may be longer than their columns are wide.
+        return quantity ? QString() : text(m_rows[cell.row()], cell.column());
     case Qt::BackgroundRole:
         if (quantity)
             return QBrush(isYellow(cell.row(), cell.column()) ? yellow : white);
