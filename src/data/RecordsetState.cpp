@@ -33,11 +33,14 @@ Recordset::State::State(Database &database, const TranslatedSql &sql)
 
 int Recordset::State::indexOf(QStringView name) const
 {
+    if (const auto known = asked.find(name); known != asked.end())
+        return known->second;
     const auto place = places.constFind(foldedText(name));
     if (place == places.constEnd())
         throw DatabaseError(u"Alan bulunamadı: "_s + name.toString());
     if (*place < 0)
         throw DatabaseError(u"Alan adı birden fazla tabloda var: "_s + name.toString());
+    asked.emplace(name.toString(), *place);
     return *place;
 }
 

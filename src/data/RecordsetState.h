@@ -5,6 +5,7 @@
 #include "Recordset.h"
 #include "SqliteEngine.h"
 
+#include <map>
 #include <QHash>
 #include <QMap>
 #include <QSqlQuery>
@@ -44,6 +45,9 @@ struct Recordset::State
 
     QList<Field> fields;
     QHash<QString, int> places; ///< by folded name; -1 for a name that is ambiguous
+    /// By the name as it was asked for: rows are read with the same names over
+    /// and over, and folding them each time took as long as reading.
+    mutable std::map<QString, int, std::less<>> asked;
 
     // The current row: read from the query as asked, or one of the rows kept
     // before the table under the query was changed.

@@ -4,6 +4,7 @@
 #include "Oturum.h"
 #include "ProductLabel.h"
 #include "SqlText.h"
+#include "TurkishText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -65,6 +66,19 @@ QStringList OrderLookups::typesOfModel(const QString &model) const
     while (Kayit.next())
         names.append(Kayit.text(u"KisaAD"));
     return names;
+}
+
+QHash<QString, QStringList> OrderLookups::typesOfOrder(qint32 Sipnum) const
+{
+    // One query for the order: asking for each model takes longer than all the rest.
+    Recordset Kayit =
+        m_oturum->sorgula(u"Select Model, KisaAD From Model, UrunTipi Where M_Uruntip = TipID "
+                          "and Model In(Select SipModel From SiparisD Where SipnumD = "_s +
+                          sqlNumber(Sipnum) + u") Group by Model, KisaAD"_s);
+    QHash<QString, QStringList> types;
+    while (Kayit.next())
+        types[foldedText(Kayit.text(u"Model"))].append(Kayit.text(u"KisaAD"));
+    return types;
 }
 
 QStringList OrderLookups::pictureTypes(const QString &model) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <QHash>
 #include <QString>
 #include <QStringList>
 
@@ -39,6 +40,8 @@ public:
     bool hasModel(const QString &model) const;
     /// The short names of the product types that the model has.
     QStringList typesOfModel(const QString &model) const;
+    /// The same for all models of an order's lines, by folded model code.
+    QHash<QString, QStringList> typesOfOrder(qint32 Sipnum) const;
     /// Where a model's picture may lie besides the picture folder itself.
     QStringList pictureTypes(const QString &model) const;
     /// The colours in their display order.

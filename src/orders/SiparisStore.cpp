@@ -130,13 +130,8 @@ std::optional<Siparis> SiparisStore::SiparisBul(qint32 Sipnum) const
     siparis.Aciklama = Kayit.text(u"SiparisB.Aciklama");
     siparis.tipler = productTypes();
 
-    const OrderLookups lookups(*m_oturum);
-    QHash<QString, QStringList> known;
-    const auto typesOf = [&](const QString &model) {
-        auto types = known.constFind(model);
-        return types != known.constEnd() ? *types
-                                         : *known.insert(model, lookups.typesOfModel(model));
-    };
+    const QHash<QString, QStringList> types = OrderLookups(*m_oturum).typesOfOrder(Sipnum);
+    const auto typesOf = [&types](const QString &model) { return types.value(foldedText(model)); };
     const QList<OrderLine> lines = readLines(Sipnum);
     siparis.satirlar = foldLines(lines, siparis.tipler, typesOf);
     siparis.keptLines = otherLines(Sipnum, lines);
@@ -166,18 +161,20 @@ QList<OrderLine> SiparisStore::readLines(qint32 Sipnum) const
 
 QList<KeptLine> SiparisStore::otherLines(qint32 Sipnum, const QList<OrderLine> &shownLines) const
 {
-    QSet<qint32> shown;
+    const QString all = u" From SiparisD Where SipnumD = "_s + sqlNumber(Sipnum);
+    Recordset counted = m_oturum->sorgula(u"Select Count(*) as n"_s + all);
+    counted.next();
+    if (counted.integer(u"n") == shownLines.size())
+        return {};
+    QStringList shown = {u"0"_s};
     for (const OrderLine &line : shownLines)
-        shown.insert(line.Dotosayi);
-    Recordset Kayit =
-        m_oturum->sorgula(u"Select * From SiparisD Where SipnumD = "_s + sqlNumber(Sipnum));
+        shown.append(QString::number(line.Dotosayi));
+    Recordset Kayit = m_oturum->sorgula(u"Select *"_s + all + u" and Dotosayi Not In("_s +
+                                        shown.join(u',') + u')');
     QList<KeptLine> others;
     while (Kayit.next()) {
-        const qint32 id = qint32(Kayit.integer(u"Dotosayi"));
-        if (!shown.contains(id)) {
-            others.append({id, Kayit.text(u"SipModel"), Kayit.text(u"Siprenk"),
-                           qint32(Kayit.integer(u"SipAdet")), stateOf(Kayit)});
-        }
+        others.append({qint32(Kayit.integer(u"Dotosayi")), Kayit.text(u"SipModel"),
+                       Kayit.text(u"Siprenk"), qint32(Kayit.integer(u"SipAdet")), stateOf(Kayit)});
     }
     return others;
 }
