@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QRegularExpressionValidator>
+#include <QSignalBlocker>
 #include <QTableView>
 
 using namespace Qt::StringLiterals;
@@ -38,6 +39,7 @@ void CellEditors::setColours(const QStringList &colours)
 void CellEditors::open(const QModelIndex &cell, Kind tur, int limit, const QString &typed)
 {
     static const QRegularExpressionValidator whole(QRegularExpression(u"-?[0-9]*"_s));
+    const QSignalBlocker opening(this); // the cell's own text is no scan
     m_cell = cell;
     m_tur = tur;
     const QString text = cell.data(Qt::EditRole).toString();

@@ -262,9 +262,16 @@ void SiparisGrid::editorLeft()
 
 void SiparisGrid::labelTyped(const QString &text)
 {
-    const QModelIndex cell = m_editors->cell();
-    if (!m_quickEntry || cell.column() != SiparisModel::modelColumn || !readLabel(text))
+    if (!m_quickEntry || m_editors->cell().column() != SiparisModel::modelColumn ||
+        !readLabel(text))
         return;
+    // A scan adds a piece; it never takes the place of a row that is there.
+    if (!m_model->satir(m_editors->cell().row()).model.isEmpty()) {
+        m_editors->close();
+        goToEmptyRow();
+        startEditor(currentIndex());
+    }
+    const QModelIndex cell = m_editors->cell();
     if (takeModel(text))
         goOn(cell);
     m_sinceLabel.start();

@@ -139,6 +139,7 @@ private Q_SLOTS:
     void picksModels();
     void scansLabels();
     void quickEntry();
+    void scansOnlyAddRows();
     void savesAsNew();
     void deletesTheOrder();
     void guardsUnsavedWork();
@@ -503,6 +504,42 @@ void GirisSiparisTest::quickEntry()
     QCOMPARE(s.control<QPushButton>(u"SabitRenk"_s)->text(), u"SR"_s);
     s.press(u"Check_HizliGiris"_s);
     QCOMPARE(s.control<QPushButton>(u"SabitRenk"_s)->text(), QString());
+}
+
+void GirisSiparisTest::scansOnlyAddRows()
+{
+    Screen s;
+    const QString likeALabel = u"1699999999999"_s; // a model code, as it happens
+    Recordset models = s.oturum.Veritabani->table(u"Model"_s);
+    models.addNew();
+    models.set(u"Model", likeALabel);
+    models.set(u"M_Uruntip", 1);
+    models.update();
+
+    s.answerList(u"BY"_s);
+    s.press(u"Check_HizliGiris"_s);
+    s.control(u"Sipnum"_s)->setFocus();
+    s.find(u"1"_s); // the cursor stands on the first row's model
+    s.grid()->setFocus();
+    s.type(earringLabel);
+    QCOMPARE(s.cell(0, 0), u"A75"_s);
+    QCOMPARE(s.cell(1, 0), u"İnci-1"_s);
+    QCOMPARE(s.cell(2, 0) + s.cell(2, 1) + s.cell(2, 4), u"İnci-1BY1"_s);
+    QCOMPARE(s.cursor(), std::pair(3, 0));
+    s.grid()->setCurrentIndex(s.grid()->model()->index(0, 0));
+    s.type(u"1600100009991"_s); // not known
+    QCOMPARE(s.cell(0, 0), u"A75"_s);
+    s.type(ringLabel);
+    QCOMPARE(s.cell(3, 0), u"A75"_s);
+
+    // Opening the cell of such a code scans nothing.
+    s.type(likeALabel);
+    QVERIFY(s.control<QLabel>(u"warningLine"_s)->text().contains(u"1600100009991"_s));
+    s.grid()->setCurrentIndex(s.grid()->model()->index(4, 0));
+    QCOMPARE(s.cell(4, 0), likeALabel);
+    s.key(Qt::Key_F2);
+    QCOMPARE(s.text(u"txtTas"_s), likeALabel);
+    QVERIFY(s.control(u"txtTas"_s)->hasFocus());
 }
 
 void GirisSiparisTest::savesAsNew()
