@@ -19,7 +19,7 @@ sqlite3 *handleOf(const QSqlDatabase &database)
     return *static_cast<sqlite3 *const *>(database.driver()->handle().constData());
 }
 
-/// What a user can do about it, for the failures he can mend.
+/// The engine speaks English only.
 QString turkishReason(int code)
 {
     switch (code & 0xff) {
@@ -37,8 +37,12 @@ QString turkishReason(int code)
         return u"Diske erişilemiyor."_s;
     case SQLITE_CANTOPEN:
         return u"Dosya açılamıyor."_s;
+    case SQLITE_CONSTRAINT:
+        return u"Kayıt, tablonun anahtarlarına uymuyor."_s;
+    case SQLITE_ERROR:
+        return u"SQL ifadesi çalıştırılamadı."_s;
     default:
-        return {};
+        return u"Veri tabanı hata verdi."_s;
     }
 }
 
@@ -57,8 +61,7 @@ void takeBackCutOffSave(const QString &path)
 
 [[noreturn]] void throwFailure(int code, const QString &text)
 {
-    const QString reason = turkishReason(code);
-    throw DatabaseError(reason.isEmpty() ? text : reason + u" ("_s + text + u')');
+    throw DatabaseError(turkishReason(code) + u" ("_s + text + u')');
 }
 
 QString uniqueConnectionName()

@@ -211,7 +211,8 @@ private Q_SLOTS:
         QCOMPARE(opener(nullptr, {u"Renk Listesi"_s, QString()}).Secilen, u"B"_s);
 
         m_company->oturum.Veritabani->engine().run(u"DROP TABLE Renkler"_s);
-        m_messages->expect({.text = u"no such table: Renkler"_s, .title = u"HATA"_s});
+        m_messages->expect({.text = u"SQL ifadesi çalıştırılamadı. (no such table: Renkler)"_s,
+                            .title = u"HATA"_s});
         QCOMPARE(opener(nullptr, {u"Renk Listesi"_s, QString()}).Secilen, QString());
     }
 
