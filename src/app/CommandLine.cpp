@@ -40,12 +40,22 @@ QString usageText()
     return text;
 }
 
+bool isHelp(const QString &word)
+{
+    return word == "--help"_L1 || word == "-h"_L1;
+}
+
 int runCommand(const Command &command, const QStringList &arguments)
 {
+    const QString usage = u"Kullanım: "_s + QString::fromUtf16(command.usage);
+    if (arguments.size() == 1 && isHelp(arguments.first())) {
+        printLine(usage);
+        return 0;
+    }
     try {
         return command.run(arguments);
     } catch (const WrongUsage &) {
-        printError(u"Kullanım: "_s + QString::fromUtf16(command.usage));
+        printError(usage);
         return exitWrongUsage;
     } catch (const std::exception &error) {
         printError(QString::fromUtf8(error.what()));

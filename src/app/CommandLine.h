@@ -25,6 +25,8 @@ struct WrongUsage
 /// The command of that word; null when there is none.
 const Command *findCommand(const QString &word);
 QString usageText();
+/// Whether the word asks for the usage.
+bool isHelp(const QString &word);
 
 /// Runs a command and turns what it throws into messages and exit codes.
 int runCommand(const Command &command, const QStringList &arguments);

@@ -16,7 +16,8 @@ int demoCommand(const QStringList &arguments)
     bool isNumber = false;
     const int scale = parser.value(scaleOption).toInt(&isNumber);
     const QStringList folders = parser.positionalArguments();
-    if (folders.size() != 1 || !isNumber || scale < 1 || scale > largestDemoScale)
+    if (folders.size() != 1 || folders.first().isEmpty() || !isNumber || scale < 1 ||
+        scale > largestDemoScale)
         throw WrongUsage();
 
     makeDemo(folders.first(), scale, printLine);

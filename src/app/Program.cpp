@@ -78,6 +78,8 @@ std::optional<QString> registryOf(const QStringList &arguments)
         return std::nullopt;
     if (!parser.isSet(sirket))
         return RegistryPaths::defaultRegistryFile();
+    if (parser.value(sirket).isEmpty())
+        return std::nullopt;
     return QFileInfo(QDir::fromNativeSeparators(parser.value(sirket))).absoluteFilePath();
 }
 
@@ -99,23 +101,34 @@ int runSession(QApplication &application, Messages &messages, const QString &reg
     return application.exec();
 }
 
+int sayWrongUsage()
+{
+    printError(usageText());
+    return exitWrongUsage;
+}
+
+int refuseWithoutDisplay(int &argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    if (!registryOf(QCoreApplication::arguments()).has_value())
+        return sayWrongUsage();
+    printError(u"Pencere açılamıyor: bu oturumda ekran yok."_s);
+    return exitRefused;
+}
+
 } // namespace
 
 int runProgram(int &argc, char **argv)
 {
-    if (!hasDisplay()) {
-        printError(u"Pencere açılamıyor: bu oturumda ekran yok."_s);
-        return exitRefused;
-    }
+    if (!hasDisplay())
+        return refuseWithoutDisplay(argc, argv);
     MessageBoxes messages;
     QCoreApplication::setApplicationName(u"kuyum"_s);
     QCoreApplication::setApplicationVersion(QStringLiteral(KUYUM_VERSION));
     Application application(argc, argv, messages);
     const std::optional<QString> registry = registryOf(QCoreApplication::arguments());
-    if (!registry.has_value()) {
-        printError(usageText());
-        return exitWrongUsage;
-    }
+    if (!registry.has_value())
+        return sayWrongUsage();
     QTranslator translator;
     speakTurkish(application, translator);
     applyTheme(application);

@@ -27,7 +27,7 @@ int main(int argc, char **argv)
         const QCoreApplication application(argc, argv);
         return runCommand(*command, arguments.mid(1));
     }
-    if (word == "--help"_L1 || word == "-h"_L1) {
+    if (isHelp(word)) {
         printLine(usageText());
         return 0;
     }

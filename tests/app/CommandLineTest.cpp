@@ -1,0 +1,139 @@
+#include "SampleCompany.h"
+#include "TestRegistry.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Outcome
+{
+    int exitCode = -1;
+    QString output;
+    QString error;
+};
+
+/// The program as a user without a display starts it.
+Outcome kuyum(const QStringList &arguments)
+{
+    QProcess program;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const auto &display : {u"QT_QPA_PLATFORM"_s, u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s})
+        environment.remove(display);
+    program.setProcessEnvironment(environment);
+    program.start(qEnvironmentVariable("KUYUM_PROGRAM"), arguments);
+    if (!program.waitForFinished())
+        return {};
+    return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
+            QString::fromUtf8(program.readAllStandardError())};
+}
+
+} // namespace
+
+class CommandLineTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_folder;
+    QString m_database = m_folder.filePath(u"ornek.kuyum"_s);
+
+    QByteArray fileBytes() const
+    {
+        QFile file(m_database);
+        return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+private Q_SLOTS:
+    void initTestCase() { makeSampleCompany(m_database).reset(); }
+
+    void wrongWordsShowTheUsage_data()
+    {
+        QTest::addColumn<QStringList>("words");
+        QTest::newRow("unknown word") << QStringList{u"yardim"_s};
+        QTest::newRow("unknown option") << QStringList{u"--yok"_s};
+        QTest::newRow("no registry named") << QStringList{u"--sirket"_s};
+        QTest::newRow("an empty registry name") << QStringList{u"--sirket"_s, QString()};
+        QTest::newRow("a word too many") << QStringList{u"--sirket"_s, u"a"_s, u"b"_s};
+        QTest::newRow("no query") << QStringList{u"sorgu"_s, m_database};
+        QTest::newRow("no target") << QStringList{u"aktar"_s, m_database};
+        QTest::newRow("a slip without a file") << QStringList{u"fis"_s, m_database, u"1"_s};
+        QTest::newRow("an order that is no number")
+            << QStringList{u"fis"_s, m_database, u"bir"_s, u"--pdf"_s, u"x.pdf"_s};
+        QTest::newRow("an empty folder name") << QStringList{u"demo"_s, QString()};
+    }
+    void wrongWordsShowTheUsage()
+    {
+        QFETCH(QStringList, words);
+        const Outcome outcome = kuyum(words);
+        QCOMPARE(outcome.exitCode, 2);
+        QVERIFY2(outcome.error.contains(u"Kullanım:"_s), qPrintable(outcome.error));
+        QCOMPARE(outcome.output, QString());
+    }
+
+    void helpIsNoError()
+    {
+        const Outcome all = kuyum({u"--help"_s});
+        QCOMPARE(all.exitCode, 0);
+        const Outcome one = kuyum({u"sorgu"_s, u"--help"_s});
+        QCOMPARE(one.exitCode, 0);
+        QCOMPARE(one.output, u"Kullanım: kuyum sorgu VERITABANI \"SELECT ...\"\n"_s);
+        QVERIFY(all.output.contains(u"kuyum sorgu VERITABANI"_s));
+    }
+
+    void aQueryThatIsNoSingleSelectIsRefused_data()
+    {
+        QTest::addColumn<QString>("sql");
+        QTest::addColumn<QString>("reason");
+        const QString noRows = u"Bu ifade kayıt döndürmez"_s;
+        QTest::newRow("insert") << u"INSERT INTO Ayar (Milyem) VALUES (1)"_s << noRows;
+        QTest::newRow("delete") << u"DELETE From Ayar"_s << noRows;
+        QTest::newRow("a second one")
+            << u"Select Milyem From Ayar; DELETE From Ayar"_s << u"Birden fazla SQL ifadesi"_s;
+        QTest::newRow("nothing") << u" ; "_s << u"Boş SQL ifadesi"_s;
+        QTest::newRow("cut off") << u"Select"_s << u"SQL ifadesi çalıştırılamadı."_s;
+        QTest::newRow("unknown table")
+            << u"Select * From Yok"_s << u"SQL ifadesi çalıştırılamadı. (no such table: Yok)"_s;
+    }
+    void aQueryThatIsNoSingleSelectIsRefused()
+    {
+        QFETCH(QString, sql);
+        QFETCH(QString, reason);
+        const QByteArray before = fileBytes();
+        const Outcome outcome = kuyum({u"sorgu"_s, m_database, sql});
+        QCOMPARE(outcome.exitCode, 1);
+        QVERIFY2(outcome.error.startsWith(reason), qPrintable(outcome.error));
+        QCOMPARE(outcome.output, QString());
+        QCOMPARE(fileBytes(), before);
+    }
+
+    void aSelectGivesCsv()
+    {
+        const Outcome outcome =
+            kuyum({u"sorgu"_s, m_database,
+                   u"Select 'a \"b\", ç' as t, '' as e, Null as n, 0.1 as d, 3 as i, "
+                   "Max(SipTrh) as g, DateValue('02.03.2020') as v From SiparisB;"_s});
+        QCOMPARE(outcome.error, QString());
+        QCOMPARE(outcome.exitCode, 0);
+        const QStringList lines = outcome.output.split(u'\n');
+        QCOMPARE(lines.size(), 3);
+        QCOMPARE(lines[0], u"\"t\",\"e\",\"n\",\"d\",\"i\",\"g\",\"v\""_s);
+        static const QRegularExpression row(
+            uR"(^"a ""b"", ç","",,0\.1,3,\d\d\.\d\d\.\d{4},02\.03\.2020$)"_s);
+        QVERIFY2(row.match(lines[1]).hasMatch(), qPrintable(lines[1]));
+    }
+
+    void anEmptyAnswerHasItsHeading()
+    {
+        const Outcome outcome =
+            kuyum({u"sorgu"_s, m_database, u"Select Milyem From Ayar Where Milyem = 1"_s});
+        QCOMPARE(outcome.exitCode, 0);
+        QCOMPARE(outcome.output, u"\"Milyem\"\n"_s);
+    }
+};
+
+KUYUM_TEST(CommandLineTest)
+#include "CommandLineTest.moc"
