@@ -126,7 +126,8 @@ void Giris_Siparis::connectGrid()
             });
     connect(m_modelEntry, &ModelEntry::modelTaken, this,
             [this](const QString &model) { ResimGoster(model, PictureError::Tell); });
-    connect(m_modelEntry, &ModelEntry::warning, this, &Giris_Siparis::showWarning);
+    connect(m_modelEntry, &ModelEntry::warning, this,
+            [this](const QString &text) { showWarning(text.isEmpty() ? m_notice : text); });
 }
 
 // Keys
@@ -187,6 +188,7 @@ void Giris_Siparis::TusKapa()
     m_stored = 0;
     m_customer = {};
     m_keptLines.clear();
+    m_notice.clear();
     m_ui->Rapor->abandonEdit();
     for (QLineEdit *box : {m_ui->Sipnum, m_ui->FirAdi, m_ui->Firkod, m_ui->KisaAD, m_ui->Ayar,
                            m_ui->Patent, m_ui->Aciklama})

@@ -51,6 +51,7 @@ private:
 
     // Finding and filling
     void SiparisBul(double number);
+    QString whyNotSaved(double number) const;
     void SiparisDoldur(const Siparis &siparis);
     void pickOrder();
     void tellKeptLines();
@@ -90,5 +91,6 @@ private:
     OrderCustomer m_customer;    ///< the customer on the screen
     qint32 m_stored = 0;         ///< the stored order that the screen holds; 0: none
     Siparis m_opened;            ///< the screen as it was opened
+    QString m_notice;            ///< stands while the order does, where nothing else warns
     QList<KeptLine> m_keptLines; ///< of the order, without those of its rows
 };

@@ -17,26 +17,32 @@ using namespace Qt::StringLiterals;
 
 void Giris_Siparis::SiparisBul(double number)
 {
-    std::optional<Siparis> found;
-    std::optional<qint32> customer;
     const bool possible =
         number >= 1 && number <= std::numeric_limits<qint32>::max() && std::floor(number) == number;
-    if (possible) {
+    std::optional<Siparis> found;
+    if (possible)
         found = m_store.SiparisBul(qint32(number));
-        if (!found)
-            customer = m_store.headerCustomer(qint32(number));
-    }
+    m_notice = found || number == 0 ? QString() : whyNotSaved(number);
     if (found)
         SiparisDoldur(*found);
     TusAC();
-    if (customer) {
-        showWarning(u"%1 nolu siparişin müşterisi (kod %2) tanımlı değil. Sipariş, müşteri "
-                    "tanımlandıktan sonra açılabilir; buradan kaydedilemez."_s.arg(
-                        plainNumber(number), QString::number(*customer)));
-    }
+    showWarning(m_notice);
     m_ui->Rapor->goTo(0, SiparisModel::modelColumn);
     m_ui->FirAdi->setFocus();
     m_ui->FirAdi->selectAll();
+}
+
+/// Why an order cannot be saved under this number, told before it is typed.
+QString Giris_Siparis::whyNotSaved(double number) const
+{
+    const std::optional<qint32> customer = m_store.headerCustomer(number);
+    if (customer) {
+        return u"%1 nolu siparişin müşterisi (kod %2) tanımlı değil. Sipariş, müşteri "
+               "tanımlandıktan sonra açılabilir; buradan kaydedilemez."_s.arg(
+                   plainNumber(number), QString::number(*customer));
+    }
+    return u"%1 nolu sipariş yok; bu numarayla kaydedilemez. Yeni sipariş için numara boş "
+           "bırakılır."_s.arg(plainNumber(number));
 }
 
 void Giris_Siparis::pickOrder()

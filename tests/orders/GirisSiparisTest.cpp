@@ -287,6 +287,9 @@ void GirisSiparisTest::savesAFoundOrder()
     s.press(u"cmdKayit"_s);
     QCOMPARE(s.headerCount(), 4);
     QCOMPARE(s.cell(0, 0), u"boş"_s); // what was typed stands
+    // It was told from the start, and still is after models were entered.
+    QVERIFY(s.control<QLabel>(u"warningLine"_s)->text().startsWith(u"77 nolu sipariş yok"_s));
+    QVERIFY(s.control(u"warningLine"_s)->isVisible());
 }
 
 void GirisSiparisTest::tellsWhatIsMissing()
