@@ -1,5 +1,6 @@
 #include "Giris_Siparis.h"
 
+#include "Dates.h"
 #include "Guarded.h"
 #include "ModelEntry.h"
 #include "Numbers.h"
@@ -59,10 +60,10 @@ void Giris_Siparis::SiparisDoldur(const Siparis &siparis)
     m_stored = siparis.Sipnum;
     m_ui->Sipnum->setText(QString::number(siparis.Sipnum));
     showCustomer({siparis.Firkod, siparis.FirAdi, siparis.KisaAD, {}});
-    if (siparis.TesTrh.isValid())
-        m_ui->TesTrh->setDate(siparis.TesTrh);
-    if (siparis.SipTrh.isValid())
-        m_ui->SipTrh->setDate(siparis.SipTrh);
+    // An old order without a date must not get today's by being saved.
+    const auto dateOrNone = [](QDate date) { return date.isValid() ? date : noDate(); };
+    m_ui->TesTrh->setDate(dateOrNone(siparis.TesTrh));
+    m_ui->SipTrh->setDate(dateOrNone(siparis.SipTrh));
     m_ui->Ayar->setText(siparis.Ayar == 0 ? QString() : plainNumber(siparis.Ayar));
     m_ui->Patent->setText(siparis.Patent);
     m_ui->Aciklama->setText(siparis.Aciklama);

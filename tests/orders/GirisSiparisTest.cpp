@@ -270,6 +270,19 @@ void GirisSiparisTest::savesAFoundOrder()
         QCOMPARE(s.field(1, u"Trhbas").last(), u"04.03.2012"_s);
         QCOMPARE(s.header(1, u"SipTrh"), u"01.03.2012"_s);
     }
+    // What old orders lack or hold beyond the screen's habits stays.
+    Recordset header = s.oturum.Veritabani->query(u"Select * From SiparisB Where Sipnum = 3"_s);
+    QVERIFY(header.next());
+    header.edit();
+    header.set(u"TesTrh", QVariant());
+    header.set(u"Aciklama", u"iki\r\nsatır"_s);
+    header.update();
+    s.find(u"3"_s);
+    s.messages.expect(slipQuestion, MessageAnswer::No);
+    s.press(u"cmdKayit"_s);
+    QCOMPARE(s.header(3, u"TesTrh"), u"01.01.2000"_s);
+    QCOMPARE(s.header(3, u"Aciklama"), u"iki\r\nsatır"_s);
+
     // A number that does not exist opens an empty screen; its save fails.
     s.find(u"77"_s);
     QCOMPARE(s.text(u"Sipnum"_s), u"77"_s);
