@@ -87,7 +87,7 @@ void Giris_Siparis::tellKeptLines()
     if (lines.size() > mostNamed)
         names.append(u"..."_s);
     m_ui->keptLinesNote->setText(
-        u"Rengi veya ürün tipi artık tanımlı olmayan %1 satır tabloda gösterilemiyor (%2). "
+        u"Rengi, ürün tipi ya da modeli tanımlı olmayan %1 satır tabloda gösterilemiyor (%2). "
         "Kaydederken olduğu gibi saklanır."_s.arg(QString::number(lines.size()),
                                                   names.join(u"; "_s)));
     m_ui->keptLinesNote->setVisible(!lines.isEmpty());
@@ -133,6 +133,7 @@ void Giris_Siparis::showCustomer(const OrderCustomer &firma)
     m_ui->FirAdi->setText(firma.FirAdi);
     m_ui->Firkod->setText(QString::number(firma.Firkod));
     m_ui->KisaAD->setText(firma.KisaAD);
+    m_ui->KisaAD->setCursorPosition(0);
 }
 
 /// A name that is being typed is no customer yet, and must not be saved under
