@@ -36,19 +36,19 @@ void CellEditors::setColours(const QStringList &colours)
     cmbTas->addItems(colours);
 }
 
-void CellEditors::open(const QModelIndex &cell, Kind tur, int limit, const QString &typed)
+void CellEditors::open(const QModelIndex &cell, Kind kind, int limit, const QString &typed)
 {
     static const QRegularExpressionValidator whole(QRegularExpression(u"-?[0-9]*"_s));
     const QSignalBlocker opening(this); // the cell's own text is no scan
     m_cell = cell;
-    m_tur = tur;
+    m_kind = kind;
     const QString text = cell.data(Qt::EditRole).toString();
-    if (tur == Kind::Colour) {
+    if (kind == Kind::Colour) {
         m_colourTyped.clear();
         cmbTas->setCurrentIndex(cmbTas->findText(text, Qt::MatchFixedString));
         chooseColour(typed);
     } else {
-        txtTas->setValidator(tur == Kind::Quantity ? &whole : nullptr);
+        txtTas->setValidator(kind == Kind::Quantity ? &whole : nullptr);
         txtTas->setMaxLength(limit == 0 ? noLimit : limit);
         txtTas->setText(text);
         txtTas->selectAll();
@@ -79,7 +79,7 @@ void CellEditors::place()
     if (!isOpen())
         return;
     QRect place = m_grid->visualRect(m_cell);
-    if (m_tur == Kind::Colour)
+    if (m_kind == Kind::Colour)
         place.setWidth(place.width() + int(colourEditorExtra.pixels(m_grid->logicalDpiX())));
     editor()->setGeometry(place);
 }
@@ -88,18 +88,18 @@ QWidget *CellEditors::editor() const
 {
     if (!isOpen())
         return nullptr;
-    return m_tur == Kind::Colour ? static_cast<QWidget *>(cmbTas) : txtTas;
+    return m_kind == Kind::Colour ? static_cast<QWidget *>(cmbTas) : txtTas;
 }
 
 QString CellEditors::text() const
 {
-    return m_tur == Kind::Colour ? cmbTas->currentText() : txtTas->text();
+    return m_kind == Kind::Colour ? cmbTas->currentText() : txtTas->text();
 }
 
 bool CellEditors::isChanged() const
 {
     return text() != m_cell.data(Qt::EditRole).toString() &&
-           (m_tur != Kind::Colour || cmbTas->currentIndex() >= 0);
+           (m_kind != Kind::Colour || cmbTas->currentIndex() >= 0);
 }
 
 void CellEditors::selectAll()

@@ -23,7 +23,7 @@ public:
 
     /// Opens an editor over the cell; `typed` replaces the cell's text. At most
     /// `limit` characters are taken (0: no limit).
-    void open(const QModelIndex &cell, Kind tur, int limit, const QString &typed);
+    void open(const QModelIndex &cell, Kind kind, int limit, const QString &typed);
     /// Closes the editor; the grid takes the focus back if the editor had it.
     void close();
     void place();
@@ -53,6 +53,6 @@ private:
     QLineEdit *txtTas;
     QComboBox *cmbTas;
     QPersistentModelIndex m_cell;
-    Kind m_tur = Kind::Text;
+    Kind m_kind = Kind::Text;
     QString m_colourTyped;
 };

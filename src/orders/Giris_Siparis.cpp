@@ -122,7 +122,7 @@ void Giris_Siparis::connectGrid()
     connect(m_ui->Rapor->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &current) {
                 if (current.isValid())
-                    ResimGoster(m_model->satir(current.row()).model, PictureError::Skip);
+                    ResimGoster(m_model->rowAt(current.row()).model, PictureError::Skip);
             });
     connect(m_modelEntry, &ModelEntry::modelTaken, this,
             [this](const QString &model) { ResimGoster(model, PictureError::Tell); });

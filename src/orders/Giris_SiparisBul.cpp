@@ -154,7 +154,7 @@ void Giris_Siparis::Gridbosalt()
 
 void Giris_Siparis::removeRow(int row)
 {
-    const SiparisSatiri &satir = m_model->satir(row);
+    const SiparisSatiri &satir = m_model->rowAt(row);
     if (satir.model.isEmpty())
         return;
     if (satir.hasBegun()) {

@@ -65,7 +65,7 @@ void ModelEntry::putIntoRow(int row, const FoundModel &found)
     const QStringList types = m_lookups.typesOfModel(found.Model);
     m_model->setData(m_model->index(row, SiparisModel::modelColumn), found.Model);
     const QModelIndex colour = m_model->index(row, SiparisModel::colourColumn);
-    if (!m_fixedColour.isEmpty() && m_model->satir(row).renk.isEmpty())
+    if (!m_fixedColour.isEmpty() && m_model->rowAt(row).renk.isEmpty())
         m_model->setData(colour, m_fixedColour);
     m_model->SatirKitle(row, types, found.KisaAD, found.KisaAD.isEmpty() ? 0 : 1);
 }
@@ -75,10 +75,10 @@ void ModelEntry::GridKontrol(int row)
 {
     const QString warning = u"TABLODA KAYIT MEVCUT!"_s;
     for (int above = 0; above < row; ++above) {
-        if (!sameText(m_model->satir(above).model, m_model->satir(row).model))
+        if (!sameText(m_model->rowAt(above).model, m_model->rowAt(row).model))
             continue;
         if (m_quickEntry)
-            warn(warning + u"  "_s + m_model->satir(row).model);
+            warn(warning + u"  "_s + m_model->rowAt(row).model);
         else
             m_context.messages.say(m_grid->window(), warning, MessageIcon::Exclamation);
         return;

@@ -71,7 +71,7 @@ void SiparisGrid::goTo(int row, int column)
 void SiparisGrid::goToEmptyRow()
 {
     int row = 0;
-    while (row < m_model->rowCount() && !m_model->satir(row).model.isEmpty())
+    while (row < m_model->rowCount() && !m_model->rowAt(row).model.isEmpty())
         ++row;
     if (row == m_model->rowCount())
         m_model->addRow();
@@ -81,7 +81,7 @@ void SiparisGrid::goToEmptyRow()
 void SiparisGrid::SatirAc()
 {
     const int last = m_model->rowCount() - 1;
-    const SiparisSatiri &row = m_model->satir(last);
+    const SiparisSatiri &row = m_model->rowAt(last);
     if (row.model.isEmpty())
         goTo(last, SiparisModel::modelColumn);
     else if (!row.renk.isEmpty())
@@ -143,7 +143,7 @@ bool SiparisGrid::finishEdit()
     const QModelIndex cell = m_editors->cell();
     if (cell.column() == SiparisModel::modelColumn) {
         const QString text = m_editors->text().trimmed();
-        if (text != m_model->satir(cell.row()).model)
+        if (text != m_model->rowAt(cell.row()).model)
             return takeModel(text);
     } else if (m_editors->isChanged()) {
         m_model->setData(cell, m_editors->text());
@@ -266,7 +266,7 @@ void SiparisGrid::labelTyped(const QString &text)
         !readLabel(text))
         return;
     // A scan adds a piece; it never takes the place of a row that is there.
-    if (!m_model->satir(m_editors->cell().row()).model.isEmpty()) {
+    if (!m_model->rowAt(m_editors->cell().row()).model.isEmpty()) {
         m_editors->close();
         goToEmptyRow();
         startEditor(currentIndex());
@@ -294,7 +294,7 @@ void SiparisGrid::goOn(const QModelIndex &from)
         goToNextRow(row);
         return;
     }
-    const SiparisSatiri &satir = m_model->satir(row);
+    const SiparisSatiri &satir = m_model->rowAt(row);
     if (from.column() == m_model->noteColumn()) {
         const bool isLast = row + 1 == m_model->rowCount();
         if (!isLast || (!satir.model.isEmpty() && !satir.renk.isEmpty()))

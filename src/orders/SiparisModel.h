@@ -26,7 +26,7 @@ public:
     /// Shows these rows and one empty line behind them.
     void fill(const QList<SiparisSatiri> &satirlar);
     const QList<SiparisSatiri> &satirlar() const { return m_rows; }
-    const SiparisSatiri &satir(int row) const { return m_rows[row]; }
+    const SiparisSatiri &rowAt(int row) const { return m_rows[row]; }
 
     void addRow();
     void removeRow(int row);
