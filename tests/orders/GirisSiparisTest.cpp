@@ -662,7 +662,8 @@ void GirisSiparisTest::keepsTheScreenWhenSavingFails()
     const auto engine = [&](const QString &sql) { blocker->engine().run(sql); };
     engine(u"CREATE TRIGGER full BEFORE INSERT ON SiparisD BEGIN "
            "SELECT RAISE(ABORT, 'disk dolu'); END"_s);
-    s.messages.expect({.text = u"disk dolu"_s, .title = u"HATA"_s});
+    s.messages.expect(
+        {.text = u"Kayıt, tablonun anahtarlarına uymuyor. (disk dolu)"_s, .title = u"HATA"_s});
     s.press(u"cmdKayit"_s);
     QCOMPARE(s.text(u"Sipnum"_s), u"5"_s);
     QCOMPARE(s.cell(0, 0), u"A75"_s);
