@@ -17,6 +17,6 @@ int Dice::between(int least, int most)
 double Dice::decimal(double least, double most, int decimals)
 {
     const double steps = std::pow(10, decimals);
-    return roundDecimal(between(int(least * steps + 0.5), int(most * steps + 0.5)) / steps,
-                        decimals);
+    return roundDecimal(
+        between(int(std::lround(least * steps)), int(std::lround(most * steps))) / steps, decimals);
 }
