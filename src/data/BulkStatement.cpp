@@ -52,6 +52,15 @@ bool BulkStatement::step()
     return result == SQLITE_ROW;
 }
 
+bool BulkStatement::insert()
+{
+    const int result = sqlite3_step(m_statement);
+    if (result != SQLITE_DONE && result != SQLITE_CONSTRAINT)
+        m_engine.fail();
+    sqlite3_reset(m_statement);
+    return result == SQLITE_DONE;
+}
+
 void BulkStatement::reset()
 {
     // What failed was told by step().

@@ -21,6 +21,8 @@ public:
     void bind(int place, const RawValue &value);
     /// Runs up to the next row; false when there is none.
     bool step();
+    /// Runs an INSERT; false when a row with that key is there already.
+    bool insert();
     /// Ready to run again.
     void reset();
 

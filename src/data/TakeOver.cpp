@@ -1,25 +1,14 @@
 #include "TakeOver.h"
 
+#include "TakeOverStepProcess.h"
 #include "TakeOverSteps.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QProcess>
-#include <QTimer>
 
 using namespace Qt::StringLiterals;
-
-/// One of the two processes while it runs.
-struct TakeOver::Step
-{
-    int from = 0; ///< its part of the whole way, of 1000
-    int to = 0;
-    QString reason; ///< why it refuses
-    bool stalled = false;
-    QTimer stallWatch;
-};
 
 TakeOver::TakeOver(const QString &source, const QString &target, const QString &program)
     : m_source(QFileInfo(source).absoluteFilePath()),
@@ -34,8 +23,8 @@ TakeOver::~TakeOver() = default;
 void TakeOver::cancel()
 {
     m_cancelled = true;
-    if (m_process != nullptr)
-        m_process->kill();
+    if (m_loop != nullptr)
+        m_loop->quit();
 }
 
 void TakeOver::checkSource() const
@@ -83,9 +72,7 @@ void TakeOver::run()
     removePart();
     const QFileInfo before(m_source);
     try {
-        constexpr int copyShare = 600;
-        runStep(TakeOverSteps::copyWord(), 0, copyShare);
-        runStep(TakeOverSteps::proveWord(), copyShare, 1000);
+        runSteps();
         const QFileInfo after(m_source);
         if (after.size() != before.size() || after.lastModified() != before.lastModified())
             throw DatabaseError(u"Aktarılırken dosya değişti; eski programı kapatıp yeniden "
@@ -100,75 +87,47 @@ void TakeOver::run()
     }
 }
 
-void TakeOver::readLine(const QByteArray &line, Step &step)
-{
-    const auto rest = [&line](qsizetype words) {
-        qsizetype at = 0;
-        for (; words > 0 && at >= 0; --words)
-            at = line.indexOf(' ', at) + 1;
-        return QString::fromUtf8(line.mid(at));
-    };
-    const QList<QByteArray> words = line.split(' ');
-    if (words[0] == "progress" && words.size() > 3) {
-        const double total = qMax(1.0, words[2].toDouble());
-        const double share = qMin(1.0, words[1].toDouble() / total);
-        Q_EMIT progressed(step.from + int(share * (step.to - step.from)), rest(3));
-    } else if (words[0] == "table" && words.size() > 2) {
-        Q_EMIT tableCopied(rest(2), words[1].toLongLong());
-    } else if (words[0] == "error") {
-        step.reason = rest(1);
-    } else {
-        return; // the library's own remarks are no sign of progress
-    }
-    step.stallWatch.start();
-}
-
-void TakeOver::runStep(const QString &word, int from, int to)
+void TakeOver::runSteps()
 {
     if (m_cancelled)
         throw TakeOverCancelled();
-    Step step;
-    step.from = from;
-    step.to = to;
-    QProcess process;
+    constexpr qint64 bytesPerMillisecond = 1000;
+    const int stallLimit = m_stallLimit > 0
+                               ? m_stallLimit
+                               : 20000 + int(QFileInfo(m_source).size() / bytesPerMillisecond);
+    TakeOverStepProcess copy(m_program, {TakeOverSteps::copyWord(), m_source, m_part}, stallLimit);
+    TakeOverStepProcess proof(m_program, {TakeOverSteps::proveWord(), m_source, m_part},
+                              stallLimit);
+    const auto tellProgress = [&](const QString &table) {
+        Q_EMIT progressed(int(600 * copy.share() + 400 * proof.share()), table);
+    };
     QEventLoop loop;
-    process.setProgram(m_program);
-    process.setArguments({word, m_source, m_part});
-    process.setStandardErrorFile(QProcess::nullDevice());
-    connect(&process, &QProcess::readyReadStandardOutput, &loop, [&] {
-        while (process.canReadLine())
-            readLine(process.readLine().trimmed(), step);
-    });
-    connect(&process, &QProcess::finished, &loop, &QEventLoop::quit);
-    connect(&process, &QProcess::errorOccurred, &loop, [&](QProcess::ProcessError error) {
-        if (error == QProcess::FailedToStart)
+    m_loop = &loop;
+    connect(&copy, &TakeOverStepProcess::moved, this, tellProgress);
+    connect(&proof, &TakeOverStepProcess::moved, this, tellProgress);
+    connect(&copy, &TakeOverStepProcess::tableDone, this, &TakeOver::tableCopied);
+    connect(&copy, &TakeOverStepProcess::ended, &loop, [&] {
+        if (copy.failure().isEmpty())
+            proof.goOn();
+        else
             loop.quit();
     });
-    connect(&step.stallWatch, &QTimer::timeout, &loop, [&] {
-        step.stalled = true;
-        process.kill();
-    });
-    constexpr qint64 bytesPerMillisecond = 1000;
-    step.stallWatch.setInterval(
-        m_stallLimit > 0 ? m_stallLimit
-                         : 20000 + int(QFileInfo(m_source).size() / bytesPerMillisecond));
-    step.stallWatch.start();
-    process.start();
-    m_process = &process;
-    if (process.state() != QProcess::NotRunning)
+    connect(&proof, &TakeOverStepProcess::ended, &loop, &QEventLoop::quit);
+    copy.start();
+    proof.start();
+    if (!copy.hasEnded() && !proof.hasEnded())
         loop.exec();
-    m_process = nullptr;
-    while (process.canReadLine())
-        readLine(process.readLine().trimmed(), step);
+    m_loop = nullptr;
+    copy.kill();
+    proof.kill();
 
     if (m_cancelled)
         throw TakeOverCancelled();
-    if (process.error() == QProcess::FailedToStart)
-        throw DatabaseError(u"Aktarma başlatılamadı: "_s + m_program);
-    if (step.stalled)
-        throw DatabaseError(u"Dosya hasarlı: okunurken ilerleme durdu: "_s + m_source);
-    if (!step.reason.isEmpty())
-        throw DatabaseError(u"%1 (%2)"_s.arg(step.reason, m_source));
-    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
-        throw DatabaseError(u"Dosya hasarlı: okunamıyor: "_s + m_source);
+    for (const TakeOverStepProcess *step : {&copy, &proof}) {
+        if (!step->failure().isEmpty())
+            throw DatabaseError(u"%1 (%2)"_s.arg(step->failure(), m_source));
+    }
+    // A proof that says yes before there is anything to prove is none.
+    if (!copy.hasEnded() || !proof.hasEnded())
+        throw DatabaseError(u"Aktarma yarıda kaldı: "_s + m_source);
 }

@@ -6,7 +6,6 @@
 #include <QString>
 
 class QEventLoop;
-class QProcess;
 
 /// Thrown by TakeOver::run() when the user stopped it; nothing is left behind.
 class TakeOverCancelled : public DatabaseError
@@ -49,12 +48,9 @@ Q_SIGNALS:
     void tableCopied(const QString &name, qint64 rows);
 
 private:
-    struct Step;
-
     void checkSource() const;
     void checkTarget() const;
-    void runStep(const QString &word, int from, int to);
-    void readLine(const QByteArray &line, Step &step);
+    void runSteps();
     void removePart() const;
 
     QString m_source;
@@ -63,5 +59,5 @@ private:
     QString m_program;
     int m_stallLimit = 0;
     bool m_cancelled = false;
-    QProcess *m_process = nullptr;
+    QEventLoop *m_loop = nullptr; ///< runs while the steps do
 };

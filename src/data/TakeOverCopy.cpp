@@ -50,17 +50,6 @@ TableDef withCounter(TableDef table, const QString &counterName)
     return table;
 }
 
-/// A counter's value that is missing or there already.
-bool counterFails(const RawValue &counter, BulkStatement &search)
-{
-    if (counter.kind != RawValue::Kind::Integer)
-        return true;
-    search.bind(0, counter);
-    const bool found = search.step();
-    search.reset();
-    return found;
-}
-
 /// Makes the table and copies its rows; false when a row's counter does not
 /// tell it from the others. Then nothing of the table is left.
 bool copyRows(LegacyFile &file, const LegacyTable &source, const TableDef &target, Database &db,
@@ -75,21 +64,16 @@ bool copyRows(LegacyFile &file, const LegacyTable &source, const TableDef &targe
     }
     bool good = true;
     {
-        const QString table = quotedName(target.name);
-        BulkStatement insert(engine,
-                             u"INSERT INTO %1 VALUES (%2)"_s.arg(
-                                 table, QStringList(target.fields.size(), u"?"_s).join(u',')));
-        BulkStatement search(engine, u"SELECT 1 FROM %1 WHERE rowid = ?"_s.arg(table));
+        BulkStatement insert(engine, u"INSERT INTO %1 VALUES (%2)"_s.arg(
+                                         quotedName(target.name),
+                                         QStringList(target.fields.size(), u"?"_s).join(u',')));
         LegacyRows rows = file.rows(source);
         while (good && rows.next()) {
-            if (counterPlace >= 0 && counterFails(rows.value(counterPlace), search)) {
-                good = false;
-                break;
-            }
+            // Without a number the database would give the row one of its own.
+            good = counterPlace < 0 || rows.value(counterPlace).kind == RawValue::Kind::Integer;
             for (qsizetype i = 0; i < rows.fieldCount(); ++i)
                 insert.bind(int(i), rows.value(i));
-            insert.step();
-            insert.reset();
+            good = good && insert.insert();
             reporter.row(target.name);
         }
         if (good)
@@ -108,7 +92,10 @@ void copyTable(LegacyFile &file, const LegacyTable &source, const QList<TableDef
             return;
     }
     // Rows count for more than a counter: without one they all fit.
-    copyRows(file, source, withCounter(source.definition, {}), db, reporter);
+    if (!copyRows(file, source, withCounter(source.definition, {}), db, reporter)) {
+        throw DatabaseError(
+            u"\"%1\" tablosunun kayıtları yazılamadı."_s.arg(source.definition.name));
+    }
 }
 
 } // namespace
@@ -132,6 +119,7 @@ void TakeOverSteps::copy(const QString &source, const QString &part, Reporter &r
     engine.run(u"PRAGMA journal_mode = MEMORY"_s);
     engine.run(u"PRAGMA locking_mode = EXCLUSIVE"_s);
     engine.run(u"PRAGMA cache_size = -16000"_s);
+    engine.run(u"PRAGMA threads = 2"_s);
     Transaction transaction(*db);
     const QList<TableDef> &description = descriptionFor(tables);
     for (const LegacyTable &table : tables)

@@ -7,24 +7,35 @@
 #include <cstdio>
 #include <cstdlib>
 #include <QCoreApplication>
+#include <semaphore>
 #include <thread>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Ends this process when the one that started it has ended: its end of the
-/// pipe closes then, and nobody would clear up behind us.
-void endWithStarter()
+/// The line to the process that started this one. When that has ended, its end
+/// of the pipe closes, and so does this process: nobody would clear up behind it.
+class Starter
 {
-    std::thread([] {
-        while (std::getchar() != EOF) {
-        }
-        std::_Exit(EXIT_FAILURE);
-    }).detach();
-    // An interrupt from the keyboard reaches the starter too, which ends us.
-    std::signal(SIGINT, SIG_IGN);
-}
+public:
+    Starter()
+    {
+        std::thread([this] {
+            for (int c = std::getchar(); c != EOF; c = std::getchar()) {
+                if (c == '\n')
+                    m_lines.release();
+            }
+            std::_Exit(EXIT_FAILURE);
+        }).detach();
+        // An interrupt from the keyboard reaches the starter too, which ends us.
+        std::signal(SIGINT, SIG_IGN);
+    }
+    void waitForLine() { m_lines.acquire(); }
+
+private:
+    std::counting_semaphore<> m_lines{0};
+};
 
 void writeLine(const QByteArray &line)
 {
@@ -49,8 +60,9 @@ std::optional<int> runTakeOverStep(int &argc, char **argv)
         return {};
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    endWithStarter();
-    TakeOverSteps::Reporter reporter(writeLine);
+    // Never taken apart: its thread runs until the process ends.
+    Starter &starter = *new Starter;
+    TakeOverSteps::Reporter reporter(writeLine, [&starter] { starter.waitForLine(); });
     try {
         (copies ? TakeOverSteps::copy : TakeOverSteps::prove)(arguments[2], arguments[3], reporter);
         return EXIT_SUCCESS;

@@ -44,30 +44,37 @@ RowChecksum checksumOfCopy(Database &db, const TableDef &table, TakeOverSteps::R
     return checksum;
 }
 
+void compare(const TableDef &table, const RowChecksum &expected, const RowChecksum &copied)
+{
+    if (expected.rowCount() != copied.rowCount()) {
+        throw DatabaseError(u"\"%1\" tablosunda kaynakta %2, aktarılanda %3 kayıt var."_s.arg(
+            table.name, QString::number(expected.rowCount()), QString::number(copied.rowCount())));
+    }
+    if (!(expected == copied)) {
+        throw DatabaseError(
+            u"\"%1\" tablosunun değerleri aktarılınca değişti; kayıtlarında saklanamayan bir "
+            "değer var."_s.arg(table.name));
+    }
+}
+
 } // namespace
 
 void TakeOverSteps::prove(const QString &source, const QString &part, Reporter &reporter)
 {
     LegacyFile file(source);
-    const std::unique_ptr<Database> db = Database::open(part, Database::Access::ReadOnly);
     const QList<LegacyTable> tables = file.tables();
     qint64 total = 0;
     for (const LegacyTable &table : tables)
         total += 2 * table.declaredRows;
     reporter.begin(total);
-    for (const LegacyTable &table : tables) {
-        const TableDef &definition = table.definition;
-        const RowChecksum expected = checksumOfSource(file, table, reporter);
-        const RowChecksum copied = checksumOfCopy(*db, definition, reporter);
-        if (expected.rowCount() != copied.rowCount()) {
-            throw DatabaseError(u"\"%1\" tablosunda kaynakta %2, aktarılanda %3 kayıt var."_s.arg(
-                definition.name, QString::number(expected.rowCount()),
-                QString::number(copied.rowCount())));
-        }
-        if (!(expected == copied)) {
-            throw DatabaseError(
-                u"\"%1\" tablosunun değerleri aktarılınca değişti; kayıtlarında saklanamayan bir "
-                "değer var."_s.arg(definition.name));
-        }
+    QList<RowChecksum> expected;
+    for (const LegacyTable &table : tables)
+        expected.append(checksumOfSource(file, table, reporter));
+
+    reporter.waitForCopy();
+    const std::unique_ptr<Database> db = Database::open(part, Database::Access::ReadOnly);
+    for (qsizetype i = 0; i < tables.size(); ++i) {
+        const TableDef &table = tables[i].definition;
+        compare(table, expected[i], checksumOfCopy(*db, table, reporter));
     }
 }

@@ -31,3 +31,9 @@ void TakeOverSteps::Reporter::tableDone(const QString &table, qint64 rows)
 {
     m_write("table " + QByteArray::number(rows) + ' ' + table.toUtf8());
 }
+
+void TakeOverSteps::Reporter::waitForCopy()
+{
+    m_write("waiting");
+    m_wait();
+}

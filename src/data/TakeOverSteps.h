@@ -10,6 +10,8 @@
 ///
 ///     progress DONE TOTAL TABLE      rows
 ///     table ROWS NAME                a table is done
+///     waiting                        the proof has read the source and wants
+///                                    a line back when the copy is complete
 ///     error REASON                   the last line of a step that refuses
 namespace TakeOverSteps {
 
@@ -20,7 +22,9 @@ const QString &proveWord(); ///< the one that runs prove()
 class Reporter
 {
 public:
-    explicit Reporter(std::function<void(const QByteArray &line)> write) : m_write(std::move(write))
+    /// wait blocks until the starting process has written a line.
+    Reporter(std::function<void(const QByteArray &line)> write, std::function<void()> wait)
+        : m_write(std::move(write)), m_wait(std::move(wait))
     {
     }
     void begin(qint64 totalRows) { m_total = totalRows; }
@@ -28,9 +32,11 @@ public:
     void row(const QString &table);
     void alive(const QString &table);
     void tableDone(const QString &table, qint64 rows);
+    void waitForCopy();
 
 private:
     std::function<void(const QByteArray &)> m_write;
+    std::function<void()> m_wait;
     qint64 m_total = 0;
     qint64 m_done = 0;
 };
@@ -39,8 +45,9 @@ private:
 /// tables, rows, indexes, what the schema has beyond them, the stamp.
 void copy(const QString &source, const QString &part, Reporter &reporter);
 
-/// Reads the legacy file again and compares every table's rows with the part.
-/// Throws DatabaseError at the first difference.
+/// Reads the legacy file again, waits until the part is complete, and compares
+/// every table's rows with the part's. Throws DatabaseError at the first
+/// difference. Reading may run while copy() does: the two share nothing.
 void prove(const QString &source, const QString &part, Reporter &reporter);
 
 } // namespace TakeOverSteps
