@@ -55,7 +55,8 @@ bool BulkStatement::step()
 bool BulkStatement::insert()
 {
     const int result = sqlite3_step(m_statement);
-    if (result != SQLITE_DONE && result != SQLITE_CONSTRAINT)
+    constexpr int withoutDetail = 0xff;
+    if (result != SQLITE_DONE && (result & withoutDetail) != SQLITE_CONSTRAINT)
         m_engine.fail();
     sqlite3_reset(m_statement);
     return result == SQLITE_DONE;

@@ -54,7 +54,7 @@ bool hasPassword(const MdbHandle *handle)
 
 /// Refuses what is no legacy database, or one that is locked. The first page
 /// must still be in the library's hands.
-void checkFirstPage(const MdbHandle *handle)
+void checkFirstPage(const MdbHandle *handle, qint64 size)
 {
     const QByteArrayView signature(reinterpret_cast<const char *>(handle->pg_buf) + 4, 15);
     if (signature == "Standard ACE DB") {
@@ -63,6 +63,8 @@ void checkFirstPage(const MdbHandle *handle)
     }
     if (signature != "Standard Jet DB" || handle->f->jet_version > MDB_VER_JET4)
         throw DatabaseError(u"Dosya bir Access (.mdb) veri tabanı değil."_s);
+    if (size % handle->fmt->pg_size != 0)
+        refuseDamaged(u"Dosyanın sonu eksik."_s);
     if (handle->f->db_key != 0 || hasPassword(handle)) {
         throw DatabaseError(u"Dosya şifreli ya da parola korumalı, aktarılamaz. Access'te parolayı "
                             "ve şifrelemeyi kaldırıp yeniden deneyin."_s);
@@ -88,24 +90,18 @@ bool mapCovers(const MdbHandle *handle, const std::vector<unsigned char> &map, q
 void checkLength(MdbHandle *handle, qint64 size)
 {
     const qint64 pages = size / handle->fmt->pg_size;
-    bool whole = size % handle->fmt->pg_size == 0;
-    if (whole && !IS_JET3(handle)) {
-        constexpr int mapPlace = 1 << 8; // the first row of page 1
-        void *page = nullptr;
-        int start = 0;
-        size_t length = 0;
-        whole = mdb_find_pg_row(handle, mapPlace, &page, &start, &length) == 0 && length > 5;
-        std::vector<unsigned char> map;
-        if (whole) {
-            const auto *bytes = static_cast<const unsigned char *>(page) + start;
-            map.assign(bytes, bytes + length);
-        }
-        if (whole && mapCovers(handle, map, pages)) {
-            whole = mdb_map_find_next(handle, map.data(), unsigned(length), guint32(pages - 1)) ==
-                    pages;
-        }
-    }
-    if (!whole)
+    if (IS_JET3(handle))
+        return;
+    constexpr int mapPlace = 1 << 8; // the first row of page 1
+    void *page = nullptr;
+    int start = 0;
+    size_t length = 0;
+    if (mdb_find_pg_row(handle, mapPlace, &page, &start, &length) != 0 || length <= 5)
+        refuseDamaged(u"Sayfa haritası okunamıyor."_s);
+    const auto *bytes = static_cast<const unsigned char *>(page) + start;
+    std::vector<unsigned char> map(bytes, bytes + length);
+    if (mapCovers(handle, map, pages) &&
+        mdb_map_find_next(handle, map.data(), unsigned(length), guint32(pages - 1)) != pages)
         refuseDamaged(u"Dosyanın sonu eksik."_s);
 }
 
@@ -149,8 +145,8 @@ LegacyFile::LegacyFile(const QString &path) : m_state(std::make_unique<State>())
     MdbHandle *handle = m_state->handle.get();
     if (handle == nullptr)
         throw DatabaseError(u"Dosya bir Access (.mdb) veri tabanı değil."_s);
-    checkFirstPage(handle);
     m_state->size = QFile(path).size();
+    checkFirstPage(handle, m_state->size);
     checkLength(handle, m_state->size);
     setTextCode(handle);
 }
