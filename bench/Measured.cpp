@@ -3,32 +3,37 @@
 #include <algorithm>
 #include <cstdio>
 #include <QElapsedTimer>
-#include <vector>
 
-double middleMilliseconds(int runs, const std::function<void()> &work,
-                          const std::function<void()> &prepare)
+namespace {
+
+void printLine(const QString &what, int decimals, double figure, const char *unit)
 {
-    std::vector<double> durations;
-    for (int run = 0; run < runs; ++run) {
-        if (prepare)
-            prepare();
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        durations.push_back(double(timer.nsecsElapsed()) / 1e6);
-    }
-    std::sort(durations.begin(), durations.end());
-    return durations[durations.size() / 2];
+    std::printf("%-52s %10.*f %s\n", what.toUtf8().constData(), decimals, figure, unit);
+    std::fflush(stdout);
+}
+
+} // namespace
+
+double milliseconds(const std::function<void()> &work)
+{
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return double(timer.nsecsElapsed()) / 1e6;
+}
+
+double middle(std::vector<double> figures)
+{
+    std::sort(figures.begin(), figures.end());
+    return figures[figures.size() / 2];
 }
 
 void printMeasured(const QString &what, double milliseconds)
 {
-    std::printf("%-52s %10.1f ms\n", what.toUtf8().constData(), milliseconds);
-    std::fflush(stdout);
+    printLine(what, 1, milliseconds, "ms");
 }
 
-void printRatio(const QString &what, double milliseconds, double baseline)
+void printRatio(const QString &what, double ratio)
 {
-    std::printf("%-52s %10.2f x\n", what.toUtf8().constData(), milliseconds / baseline);
-    std::fflush(stdout);
+    printLine(what, 2, ratio, "x");
 }

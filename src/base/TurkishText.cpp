@@ -133,6 +133,21 @@ int compareText(QStringView a, QStringView b)
 
 int compareUtf8Text(const char *a, int aBytes, const char *b, int bBytes)
 {
+    // Sorting and seeking compare texts that begin alike: what is the same in
+    // bytes need not be weighed.
+    const int shorter = aBytes < bBytes ? aBytes : bBytes;
+    int same = 0;
+    while (same < shorter && a[same] == b[same])
+        ++same;
+    const auto isInsideLetter = [](const char *text, int at, int bytes) {
+        return at < bytes && (static_cast<unsigned char>(text[at]) & 0xc0) == 0x80;
+    };
+    while (same > 0 && (isInsideLetter(a, same, aBytes) || isInsideLetter(b, same, bBytes)))
+        --same;
+    a += same;
+    b += same;
+    aBytes -= same;
+    bBytes -= same;
     return compareWalked(Utf8Walker(a, aBytes), Utf8Walker(b, bBytes));
 }
 

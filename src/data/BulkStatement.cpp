@@ -31,13 +31,12 @@ void BulkStatement::bind(int place, const RawValue &value)
         result = sqlite3_bind_double(m_statement, place + 1, value.real);
         break;
     case RawValue::Kind::Text:
-        result =
-            sqlite3_bind_text64(m_statement, place + 1, value.bytes.constData(),
-                                sqlite3_uint64(value.bytes.size()), SQLITE_STATIC, SQLITE_UTF8);
+        result = sqlite3_bind_text64(m_statement, place + 1, value.bytes.data(), value.bytes.size(),
+                                     SQLITE_STATIC, SQLITE_UTF8);
         break;
     case RawValue::Kind::Blob:
-        result = sqlite3_bind_blob64(m_statement, place + 1, value.bytes.constData(),
-                                     sqlite3_uint64(value.bytes.size()), SQLITE_STATIC);
+        result = sqlite3_bind_blob64(m_statement, place + 1, value.bytes.data(), value.bytes.size(),
+                                     SQLITE_STATIC);
         break;
     }
     if (result != SQLITE_OK)
@@ -75,9 +74,11 @@ int BulkStatement::columnCount() const
 
 void BulkStatement::column(int place, RawValue &value) const
 {
-    const auto bytes = [&](const void *data) {
-        return QByteArrayView(static_cast<const char *>(data),
-                              sqlite3_column_bytes(m_statement, place));
+    // The engine knows the size only after it has made the bytes ready; those
+    // of an empty blob are null.
+    const auto setBytes = [&](RawValue::Kind kind, const void *bytes) {
+        const int size = sqlite3_column_bytes(m_statement, place);
+        value.setBytes(kind, size > 0 ? static_cast<const char *>(bytes) : "", size_t(size));
     };
     switch (sqlite3_column_type(m_statement, place)) {
     case SQLITE_INTEGER:
@@ -86,16 +87,12 @@ void BulkStatement::column(int place, RawValue &value) const
     case SQLITE_FLOAT:
         value.setReal(sqlite3_column_double(m_statement, place));
         break;
-    case SQLITE_TEXT: {
-        const QByteArrayView text = bytes(sqlite3_column_text(m_statement, place));
-        value.setBytes(RawValue::Kind::Text, text.data(), text.size());
+    case SQLITE_TEXT:
+        setBytes(RawValue::Kind::Text, sqlite3_column_text(m_statement, place));
         break;
-    }
-    case SQLITE_BLOB: {
-        const QByteArrayView blob = bytes(sqlite3_column_blob(m_statement, place));
-        value.setBytes(RawValue::Kind::Blob, blob.data(), blob.size());
+    case SQLITE_BLOB:
+        setBytes(RawValue::Kind::Blob, sqlite3_column_blob(m_statement, place));
         break;
-    }
     default:
         value.setNull();
     }

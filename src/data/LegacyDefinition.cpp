@@ -1,5 +1,6 @@
 #include "LegacyDefinition.h"
 
+#include "LegacyValues.h"
 #include "TurkishText.h"
 
 using namespace Qt::StringLiterals;
@@ -134,33 +135,4 @@ TableDef translateDefinition(MdbTableDef *table)
         addIndexOf(table, index, result.indexes);
     }
     return result;
-}
-
-QVariant defaultValueOf(FieldType type, QString expression)
-{
-    expression = expression.trimmed();
-    if (expression.startsWith(u'='))
-        expression = expression.mid(1).trimmed();
-    if (type == FieldType::Text || type == FieldType::Memo) {
-        const bool quoted =
-            expression.size() >= 2 && expression.startsWith(u'"') && expression.endsWith(u'"');
-        if (!quoted)
-            return {};
-        return expression.mid(1, expression.size() - 2).replace(u"\"\""_s, u"\""_s);
-    }
-    if (type == FieldType::Boolean) {
-        static const QStringList yes = {u"yes"_s, u"true"_s, u"on"_s, u"-1"_s, u"1"_s, u"evet"_s};
-        static const QStringList no = {u"no"_s, u"false"_s, u"off"_s, u"0"_s, u"hayır"_s};
-        const QString word = expression.toLower();
-        return yes.contains(word) ? QVariant(1) : no.contains(word) ? QVariant(0) : QVariant();
-    }
-    bool isNumber = false;
-    const double number = expression.toDouble(&isNumber);
-    const bool takesNumber = type != FieldType::Date && type != FieldType::Guid &&
-                             type != FieldType::Binary && type != FieldType::LongBinary;
-    if (!isNumber || !takesNumber)
-        return {};
-    bool whole = false;
-    const qlonglong integer = expression.toLongLong(&whole);
-    return whole ? QVariant(integer) : QVariant(number);
 }

@@ -32,9 +32,10 @@ public:
     qsizetype fieldCount() const;
     qint64 rowCount() const; ///< rows read so far
 
+    struct State;
+
 private:
     friend class LegacyFile;
-    struct State;
     explicit LegacyRows(std::unique_ptr<State> state);
 
     std::unique_ptr<State> m_state;
@@ -56,8 +57,7 @@ public:
     /// Only one table's rows can be read at a time.
     LegacyRows rows(const LegacyTable &table);
 
-    struct State;
-
 private:
+    struct State;
     std::unique_ptr<State> m_state;
 };

@@ -30,6 +30,3 @@ inline MdbColumn *columnAt(const MdbTableDef *table, unsigned place)
 
 /// Throws the DatabaseError for a file that is damaged, with what was found.
 [[noreturn]] void refuseDamaged(const QString &what);
-
-/// Text of the legacy file as UTF-8, added to the end of target.
-void appendText(MdbHandle *handle, const char *source, size_t size, QByteArray &target);

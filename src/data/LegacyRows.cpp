@@ -26,7 +26,7 @@ constexpr quint32 longLengthMask = 0x3fffffff;
 
 LegacyRows::State::State(MdbHandle *handle, const MdbCatalogEntry &tableEntry,
                          qint64 &longValueBudget)
-    : entry(tableEntry), m_handle(handle), m_budget(longValueBudget)
+    : entry(tableEntry), m_handle(handle), m_budget(longValueBudget), m_texts(handle)
 {
     table = readDefinition(entry);
     values.resize(table->num_cols);
@@ -174,16 +174,13 @@ void LegacyRows::State::readValue(const MdbColumn &column, const MdbField &field
         return storeDecimal(text.get(), value);
     }
     case MDB_TEXT:
-        value.setText({});
-        return appendText(m_handle, bytes, size_t(field.siz), value.bytes);
+        return m_texts.store({bytes, size_t(field.siz)}, value);
     case MDB_MEMO:
-        value.setText({});
-        return appendText(m_handle, m_longValue.constData(), size_t(m_longValue.size()),
-                          value.bytes);
+        return m_texts.store(m_longValue, value);
     case MDB_OLE:
-        return value.setBytes(RawValue::Kind::Blob, m_longValue.constData(), m_longValue.size());
+        return value.setBytes(RawValue::Kind::Blob, m_longValue.data(), m_longValue.size());
     default: // a Binary; other types were refused with the definition
-        return value.setBytes(RawValue::Kind::Blob, bytes, field.siz);
+        return value.setBytes(RawValue::Kind::Blob, bytes, size_t(field.siz));
     }
 }
 
@@ -191,15 +188,15 @@ void LegacyRows::State::readValue(const MdbColumn &column, const MdbField &field
 /// library gives an empty text for one it cannot follow; here that refuses.
 void LegacyRows::State::readLongValue(MdbColumn &column, const MdbField &field)
 {
-    m_longValue.resize(0);
+    m_longValue.clear();
     if (field.siz == 0)
         return;
     if (field.siz < MDB_MEMO_OVERHEAD)
         refuseRow();
     char head[MDB_MEMO_OVERHEAD];
     std::memcpy(head, m_handle->pg_buf + field.start, sizeof head);
-    const qint64 length = qFromLittleEndian<quint32>(head) & longLengthMask;
-    m_budget -= length;
+    const size_t length = qFromLittleEndian<quint32>(head) & longLengthMask;
+    m_budget -= qint64(length);
     if (m_budget < 0)
         refuseRow();
     if (length == 0)
@@ -208,10 +205,9 @@ void LegacyRows::State::readLongValue(MdbColumn &column, const MdbField &field)
     column.bind_ptr = m_piece.data();
     column.cur_value_start = field.start;
     column.cur_value_len = field.siz;
-    size_t got = mdb_ole_read(m_handle, &column, head, size_t(m_piece.size()));
+    size_t got = mdb_ole_read(m_handle, &column, head, m_piece.size());
     while (got > 0 && m_longValue.size() < length) {
-        m_longValue.append(m_piece.constData(),
-                           qMin(qsizetype(got), qsizetype(length) - m_longValue.size()));
+        m_longValue.append(m_piece.data(), std::min(got, length - m_longValue.size()));
         if (m_longValue.size() < length)
             got = mdb_ole_read_next(m_handle, &column, head);
     }

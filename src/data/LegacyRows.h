@@ -2,6 +2,7 @@
 
 #include "LegacyFile.h"
 #include "LegacyLibrary.h"
+#include "LegacyTexts.h"
 #include "LegacyValues.h"
 
 #include <vector>
@@ -39,7 +40,8 @@ private:
     int m_row = 0;
     int m_rowsOnPage = 0;
     std::vector<MdbField> m_fields;
-    QByteArray m_piece;     ///< takes one page's part of a long value
-    QByteArray m_longValue; ///< the whole of it
+    std::string m_piece;     ///< takes one page's part of a long value
+    std::string m_longValue; ///< the whole of it
     DateStorer m_dates;
+    LegacyTexts m_texts;
 };

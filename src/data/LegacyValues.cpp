@@ -7,6 +7,8 @@
 #include <QtEndian>
 #include <QUuid>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Below this, a count of digits that a number keeps exactly.
@@ -27,7 +29,7 @@ void storeCurrency(qint64 tenThousandths, RawValue &value)
                       QByteArray::number(count % 10000).rightJustified(4, '0');
     if (tenThousandths < 0)
         text.prepend('-');
-    value.setText(text);
+    value.setText(text.toStdString());
 }
 
 void storeDecimal(const QByteArray &text, RawValue &value)
@@ -42,7 +44,7 @@ void storeDecimal(const QByteArray &text, RawValue &value)
     if (isNumber && digits <= 15)
         storeReal(number, value);
     else
-        value.setText(text);
+        value.setText(text.toStdString());
 }
 
 void storeReal(double number, RawValue &value)
@@ -56,7 +58,7 @@ void storeGuid(const char *bytes, RawValue &value)
     const QUuid guid(qFromLittleEndian<quint32>(bytes), qFromLittleEndian<quint16>(bytes + 4),
                      qFromLittleEndian<quint16>(bytes + 6), tail[0], tail[1], tail[2], tail[3],
                      tail[4], tail[5], tail[6], tail[7]);
-    value.setText(guid.toByteArray(QUuid::WithBraces).toUpper());
+    value.setText(guid.toByteArray(QUuid::WithBraces).toUpper().toStdString());
 }
 
 QDateTime legacyMoment(double days)
@@ -75,16 +77,47 @@ void DateStorer::store(double days, RawValue &value)
 {
     quint64 bits = 0;
     std::memcpy(&bits, &days, sizeof bits);
-    auto text = m_texts.constFind(bits);
-    if (text == m_texts.constEnd()) {
-        constexpr qsizetype enough = 20000;
+    auto known = m_texts.find(bits);
+    if (known == m_texts.end()) {
+        constexpr size_t enough = 20000;
         if (m_texts.size() >= enough)
             m_texts.clear();
         const QDateTime moment = legacyMoment(days);
-        text = m_texts.insert(bits, moment.isValid() ? isoText(moment).toLatin1() : QByteArray());
+        known =
+            m_texts.emplace(bits, moment.isValid() ? isoText(moment).toStdString() : std::string())
+                .first;
     }
-    if (text->isEmpty())
+    if (known->second.empty())
         storeReal(days, value);
     else
-        value.setText(*text);
+        value.setText(known->second);
+}
+
+QVariant defaultValueOf(FieldType type, QString expression)
+{
+    expression = expression.trimmed();
+    if (expression.startsWith(u'='))
+        expression = expression.mid(1).trimmed();
+    if (type == FieldType::Text || type == FieldType::Memo) {
+        const bool quoted =
+            expression.size() >= 2 && expression.startsWith(u'"') && expression.endsWith(u'"');
+        if (!quoted)
+            return {};
+        return expression.mid(1, expression.size() - 2).replace(u"\"\""_s, u"\""_s);
+    }
+    if (type == FieldType::Boolean) {
+        static const QStringList yes = {u"yes"_s, u"true"_s, u"on"_s, u"-1"_s, u"1"_s, u"evet"_s};
+        static const QStringList no = {u"no"_s, u"false"_s, u"off"_s, u"0"_s, u"hayır"_s};
+        const QString word = expression.toLower();
+        return yes.contains(word) ? QVariant(1) : no.contains(word) ? QVariant(0) : QVariant();
+    }
+    bool isNumber = false;
+    const double number = expression.toDouble(&isNumber);
+    const bool takesNumber = type != FieldType::Date && type != FieldType::Guid &&
+                             type != FieldType::Binary && type != FieldType::LongBinary;
+    if (!isNumber || !takesNumber)
+        return {};
+    bool whole = false;
+    const qlonglong integer = expression.toLongLong(&whole);
+    return whole ? QVariant(integer) : QVariant(number);
 }

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "RawValue.h"
+#include "TableDef.h"
 
 #include <QDateTime>
-#include <QHash>
+#include <string>
+#include <unordered_map>
 
 /// How a value of a legacy file is stored here. The sources are the bytes as
 /// they stand in the file.
@@ -36,5 +38,9 @@ public:
     void store(double days, RawValue &value);
 
 private:
-    QHash<quint64, QByteArray> m_texts;
+    std::unordered_map<quint64, std::string> m_texts;
 };
+
+/// The default value of a field that the legacy engine keeps as an expression.
+/// Invalid for one that is more than a plain value (such as Date()).
+QVariant defaultValueOf(FieldType type, QString expression);

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <QByteArray>
+#include <QtGlobal>
+#include <string>
+#include <string_view>
 
 /// One field's value as the engine stores it, without the cost of a QVariant:
 /// what a take-over moves by the million. Text is UTF-8.
@@ -11,7 +13,7 @@ struct RawValue
     Kind kind = Kind::Null;
     qint64 integer = 0;
     double real = 0;
-    QByteArray bytes; ///< of a Text or Blob; its memory is used again
+    std::string bytes; ///< of a Text or Blob; its memory is used again
 
     void setNull() { kind = Kind::Null; }
     void setInteger(qint64 value)
@@ -24,11 +26,10 @@ struct RawValue
         kind = Kind::Real;
         real = value;
     }
-    void setBytes(Kind textOrBlob, const char *data, qsizetype size)
+    void setBytes(Kind textOrBlob, const char *data, size_t size)
     {
         kind = textOrBlob;
-        bytes.resize(0);
-        bytes.append(data, size);
+        bytes.assign(data, size);
     }
-    void setText(const QByteArray &utf8) { setBytes(Kind::Text, utf8.constData(), utf8.size()); }
+    void setText(std::string_view utf8) { setBytes(Kind::Text, utf8.data(), utf8.size()); }
 };

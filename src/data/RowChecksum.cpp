@@ -5,7 +5,7 @@
 
 void RowChecksum::add(const RawValue &value)
 {
-    const auto append = [this](const void *data, qsizetype size) {
+    const auto append = [this](const void *data, size_t size) {
         m_row.append(static_cast<const char *>(data), size);
     };
     RawValue::Kind kind = value.kind;
@@ -16,7 +16,7 @@ void RowChecksum::add(const RawValue &value)
         kind = RawValue::Kind::Integer;
         whole = qint64(value.real);
     }
-    m_row.append(char(kind));
+    m_row.push_back(char(kind));
     switch (kind) {
     case RawValue::Kind::Null:
         break;
@@ -28,9 +28,9 @@ void RowChecksum::add(const RawValue &value)
         break;
     case RawValue::Kind::Text:
     case RawValue::Kind::Blob: {
-        const qsizetype size = value.bytes.size();
+        const size_t size = value.bytes.size();
         append(&size, sizeof size);
-        append(value.bytes.constData(), size);
+        append(value.bytes.data(), size);
         break;
     }
     }
@@ -38,8 +38,7 @@ void RowChecksum::add(const RawValue &value)
 
 void RowChecksum::endRow()
 {
-    m_first += qHashBits(m_row.constData(), size_t(m_row.size()), 0x9e3779b97f4a7c15);
-    m_second += qHashBits(m_row.constData(), size_t(m_row.size()), 0x2545f4914f6cdd1d);
+    m_sum += qHashBits(m_row.data(), m_row.size(), 0x9e3779b97f4a7c15);
     ++m_rows;
-    m_row.resize(0);
+    m_row.clear();
 }

@@ -2,7 +2,7 @@
 
 #include "RawValue.h"
 
-#include <QByteArray>
+#include <string>
 
 /// A sum over all values of a table's rows that does not depend on the order
 /// of the rows. Two tables have the same one only when they hold the same
@@ -17,12 +17,11 @@ public:
     qint64 rowCount() const { return m_rows; }
     bool operator==(const RowChecksum &other) const
     {
-        return m_rows == other.m_rows && m_first == other.m_first && m_second == other.m_second;
+        return m_rows == other.m_rows && m_sum == other.m_sum;
     }
 
 private:
-    QByteArray m_row;
-    quint64 m_first = 0;
-    quint64 m_second = 0;
+    std::string m_row;
+    quint64 m_sum = 0;
     qint64 m_rows = 0;
 };

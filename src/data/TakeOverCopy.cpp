@@ -8,6 +8,8 @@
 #include "TakeOverSteps.h"
 #include "TurkishText.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -98,6 +100,35 @@ void copyTable(LegacyFile &file, const LegacyTable &source, const QList<TableDef
     }
 }
 
+/// Whether a search by these fields is served by another index too, which
+/// begins with them: keeping both would only slow down every save.
+bool isServedBy(const QList<IndexDef> &others, const IndexDef &index)
+{
+    return std::any_of(others.begin(), others.end(), [&index](const IndexDef &other) {
+        return other.fields.size() > index.fields.size() &&
+               std::equal(index.fields.begin(), index.fields.end(), other.fields.begin(),
+                          [](const QString &a, const QString &b) { return sameText(a, b); });
+    });
+}
+
+void makeIndexes(const QList<LegacyTable> &tables, const QList<TableDef> &description, Database &db,
+                 TakeOverSteps::Reporter &reporter)
+{
+    for (const LegacyTable &table : tables) {
+        const TableDef &definition = table.definition;
+        QList<IndexDef> others = definition.indexes;
+        for (const TableDef &known : description) {
+            if (sameText(known.name, definition.name))
+                others += known.indexes;
+        }
+        for (const IndexDef &index : definition.indexes) {
+            reporter.alive(definition.name);
+            if (index.unique || !isServedBy(others, index))
+                createIndexAsAllowed(db, definition.name, index);
+        }
+    }
+}
+
 } // namespace
 
 void TakeOverSteps::copy(const QString &source, const QString &part, Reporter &reporter)
@@ -119,17 +150,11 @@ void TakeOverSteps::copy(const QString &source, const QString &part, Reporter &r
     engine.run(u"PRAGMA journal_mode = MEMORY"_s);
     engine.run(u"PRAGMA locking_mode = EXCLUSIVE"_s);
     engine.run(u"PRAGMA cache_size = -16000"_s);
-    engine.run(u"PRAGMA threads = 2"_s);
     Transaction transaction(*db);
     const QList<TableDef> &description = descriptionFor(tables);
     for (const LegacyTable &table : tables)
         copyTable(file, table, description, *db, reporter);
-    for (const LegacyTable &table : tables) {
-        for (const IndexDef &index : table.definition.indexes) {
-            reporter.alive(table.definition.name);
-            createIndexAsAllowed(*db, table.definition.name, index);
-        }
-    }
+    makeIndexes(tables, description, *db, reporter);
     completeTables(*db, description);
     writeStamp(*db, stamp);
     db->setSchemaVersion(currentSchemaVersion);
