@@ -28,12 +28,24 @@ double middle(std::vector<double> figures)
     return figures[figures.size() / 2];
 }
 
+double middleMilliseconds(int runs, const std::function<void()> &work,
+                          const std::function<void()> &prepare)
+{
+    std::vector<double> durations;
+    for (int run = 0; run < runs; ++run) {
+        if (prepare)
+            prepare();
+        durations.push_back(milliseconds(work));
+    }
+    return middle(durations);
+}
+
 void printMeasured(const QString &what, double milliseconds)
 {
     printLine(what, 1, milliseconds, "ms");
 }
 
-void printRatio(const QString &what, double ratio)
+void printRatio(const QString &what, double milliseconds, double baseline)
 {
-    printLine(what, 2, ratio, "x");
+    printLine(what, 2, milliseconds / baseline, "x");
 }

@@ -10,7 +10,12 @@ double milliseconds(const std::function<void()> &work);
 /// The middle one of the figures of several runs.
 double middle(std::vector<double> figures);
 
-/// One line of a result: what was measured, and how long it took or how many
-/// times as long as its baseline.
+/// Runs the work several times and gives the middle of its durations, in
+/// milliseconds. prepare runs before each, outside the time.
+double middleMilliseconds(int runs, const std::function<void()> &work,
+                          const std::function<void()> &prepare = {});
+
+/// One line of a result: what was measured, how long it took, and how many
+/// times as long as the baseline that is.
 void printMeasured(const QString &what, double milliseconds);
-void printRatio(const QString &what, double ratio);
+void printRatio(const QString &what, double milliseconds, double baseline);

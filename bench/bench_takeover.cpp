@@ -165,7 +165,7 @@ void measure(const QString &source, int runs)
     printMeasured(u"mdb-export of all tables to nowhere"_s, middle(exported));
     printMeasured(u"raw SQLite inserts of the same rows"_s, middle(inserted));
     printMeasured(u"take-over (copy, indexes, proof)"_s, middle(whole));
-    printRatio(u"take-over to export + inserts"_s, middle(ratios));
+    printRatio(u"take-over to export + inserts"_s, middle(ratios), 1);
     QFile::remove(target);
     std::printf("%-52s %10.1f MB\n", "most memory, all processes",
                 double(mostMemory(source, target)) / 1024);

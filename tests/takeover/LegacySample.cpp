@@ -123,6 +123,15 @@ QList<LegacySample::Row> LegacySample::places(qsizetype definition) const
     return rows;
 }
 
+qsizetype LegacySample::endOf(const Row &row) const
+{
+    const qsizetype page = row.mark - row.mark % pageSize;
+    // Rows fill a page from its end: the one before begins where this one ends.
+    if (row.mark == page + rowCount + 2)
+        return page + pageSize;
+    return page + qsizetype(number(row.mark - 2, 2) & placeMask);
+}
+
 quint16 LegacySample::marksOf(const Row &row) const
 {
     return quint16(number(row.mark, 2)) & ~placeMask;

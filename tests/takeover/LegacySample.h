@@ -44,6 +44,7 @@ public:
     };
     /// Every place for a row on the table's pages, the deleted ones too.
     QList<Row> places(qsizetype definition) const;
+    qsizetype endOf(const Row &row) const; ///< behind its last byte
     quint16 marksOf(const Row &row) const;
     void setMarks(const Row &row, quint16 marks);
     /// Where a field of fixed size stands in a row.
