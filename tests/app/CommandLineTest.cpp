@@ -133,6 +133,48 @@ private Q_SLOTS:
         QCOMPARE(outcome.exitCode, 0);
         QCOMPARE(outcome.output, u"\"Milyem\"\n"_s);
     }
+
+    void aLegacyFileIsTakenOverOnce()
+    {
+        const QString source = qEnvironmentVariable("KUYUM_ORNEK") + u"/atolye.mdb"_s;
+        if (!QFile::exists(source))
+            QSKIP("no example files");
+        const QString target = m_folder.filePath(u"hedef.kuyum"_s);
+        const Outcome first = kuyum({u"aktar"_s, source, target});
+        QCOMPARE(first.error, QString());
+        QCOMPARE(first.exitCode, 0);
+        QVERIFY(first.output.split(u'\n').contains(u"SiparisD: 3215 kayıt"_s));
+
+        const Outcome again = kuyum({u"aktar"_s, source, target});
+        QCOMPARE(again.exitCode, 1);
+        QVERIFY2(again.error.startsWith(u"Hedef dosya zaten var"_s), qPrintable(again.error));
+
+        // Read in place, the legacy file answers as the one made from it.
+        const QString sql = u"Select * From SiparisB Order By Sipnum"_s;
+        const Outcome legacy = kuyum({u"sorgu"_s, source, sql});
+        QCOMPARE(legacy.exitCode, 0);
+        QCOMPARE(legacy.output.count(u'\n') - 1 >= 395, true);
+        QCOMPARE(legacy.output, kuyum({u"sorgu"_s, target, sql}).output);
+    }
+
+    void anUnreadableLegacyFileIsRefused()
+    {
+        const QString source = m_folder.filePath(u"bozuk.mdb"_s);
+        QFile file(source);
+        QVERIFY(file.open(QFile::WriteOnly) && file.write(QByteArray(50000, 'x')) > 0);
+        file.close();
+        const QString target = m_folder.filePath(u"bozuk.kuyum"_s);
+        for (const QStringList &words :
+             {QStringList{u"aktar"_s, source, target},
+              QStringList{u"sorgu"_s, source, u"Select 1 From Ayar"_s}}) {
+            const Outcome outcome = kuyum(words);
+            QCOMPARE(outcome.exitCode, 1);
+            QVERIFY2(outcome.error.startsWith(u"Dosya bir Access (.mdb) veri tabanı değil"_s),
+                     qPrintable(outcome.error));
+            QCOMPARE(outcome.output, QString());
+        }
+        QVERIFY(!QFile::exists(target));
+    }
 };
 
 KUYUM_TEST(CommandLineTest)
