@@ -153,7 +153,7 @@ private Q_SLOTS:
         const QString sql = u"Select * From SiparisB Order By Sipnum"_s;
         const Outcome legacy = kuyum({u"sorgu"_s, source, sql});
         QCOMPARE(legacy.exitCode, 0);
-        QCOMPARE(legacy.output.count(u'\n') - 1 >= 395, true);
+        QVERIFY(legacy.output.count(u'\n') > 395);
         QCOMPARE(legacy.output, kuyum({u"sorgu"_s, target, sql}).output);
     }
 
