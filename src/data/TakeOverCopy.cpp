@@ -24,6 +24,11 @@ const QList<TableDef> &descriptionFor(const QList<LegacyTable> &tables)
     return companyTables();
 }
 
+bool isWholeNumber(FieldType type)
+{
+    return type == FieldType::Long || type == FieldType::Integer || type == FieldType::Byte;
+}
+
 /// The fields by which the database could number this table's rows, the best
 /// one first: what this program relies on, then what the legacy file had.
 QStringList counterCandidates(const TableDef &table, const QList<TableDef> &description)
@@ -32,7 +37,7 @@ QStringList counterCandidates(const TableDef &table, const QList<TableDef> &desc
     for (const TableDef &known : description) {
         const FieldDef *counter = sameText(known.name, table.name) ? known.counter() : nullptr;
         const FieldDef *field = counter != nullptr ? table.field(counter->name) : nullptr;
-        if (field != nullptr && field->type == FieldType::Long)
+        if (field != nullptr && isWholeNumber(field->type))
             names.append(field->name);
     }
     const FieldDef *own = table.counter();
