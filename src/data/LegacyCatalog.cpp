@@ -100,6 +100,8 @@ QList<LegacyCatalogEntry> readCatalog(MdbHandle *handle, qint64 fileSize)
         }
         if (isSystemName(name))
             continue;
+        if (!isLegacyName(QString::fromUtf8(name)))
+            refuseList();
         LegacyCatalogEntry entry{name, id, {}};
         const RawValue &properties = rows.value(Properties);
         if (properties.kind == RawValue::Kind::Blob && properties.bytes.size() > 4) {

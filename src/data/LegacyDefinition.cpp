@@ -39,19 +39,36 @@ constexpr unsigned maxIndexes = 256;
 
 constexpr int relationIndex = 2;
 
+/// Whether two columns claim the same place in a row.
+bool collide(const MdbColumn *a, const MdbColumn *b)
+{
+    if (a->col_num == b->col_num)
+        return true;
+    if (a->is_fixed != b->is_fixed)
+        return false;
+    if (a->is_fixed == 0)
+        return a->var_col_num == b->var_col_num;
+    // A Boolean takes no room: its value is the mark that tells nulls elsewhere.
+    return a->fixed_offset < b->fixed_offset + b->col_size &&
+           b->fixed_offset < a->fixed_offset + a->col_size;
+}
+
 void checkColumns(const MdbTableDef *table, const QString &tableName)
 {
     for (unsigned i = 0; i < table->num_cols; ++i) {
         const MdbColumn *column = columnAt(table, i);
         const QString name = QString::fromUtf8(column->name);
         const LegacyType *known = legacyType(column->col_type);
+        if (!isLegacyName(name))
+            refuseDamaged(u"\"%1\" tablosunun tanımı okunamıyor."_s.arg(tableName));
         if (known == nullptr) {
             throw DatabaseError(u"\"%1\" tablosunun \"%2\" alanı bilinmeyen türde (%3)."_s.arg(
                 tableName, name, QString::number(column->col_type)));
         }
-        const bool sizeOff =
-            known->bytes > 0 && column->is_fixed != 0 && column->col_size != known->bytes;
-        if (name.isEmpty() || sizeOff)
+        bool good = known->bytes == 0 || column->is_fixed == 0 || column->col_size == known->bytes;
+        for (unsigned other = 0; other < i; ++other)
+            good = good && !collide(column, columnAt(table, other));
+        if (!good)
             refuseDamaged(u"\"%1\" tablosunun tanımı okunamıyor."_s.arg(tableName));
     }
 }

@@ -30,3 +30,7 @@ inline MdbColumn *columnAt(const MdbTableDef *table, unsigned place)
 
 /// Throws the DatabaseError for a file that is damaged, with what was found.
 [[noreturn]] void refuseDamaged(const QString &what);
+
+/// Whether the legacy engine allows a table or field to have this name. One
+/// that it does not is a damaged one.
+bool isLegacyName(const QString &name);
