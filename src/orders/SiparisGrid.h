@@ -28,7 +28,10 @@ public:
     /// How many characters the fields of model and note take; 0 is no limit.
     void setLimits(int modelCharacters, int noteCharacters);
     /// Who takes a text that was entered as the current row's model.
-    void setModelEntry(std::function<ModelOutcome(const QString &)> take) { m_take = take; }
+    void setModelEntry(std::function<ModelOutcome(const QString &)> take)
+    {
+        m_take = std::move(take);
+    }
     /// Labels are taken as soon as they are complete, without Enter.
     void setQuickEntry(bool on) { m_quickEntry = on; }
 

@@ -52,7 +52,7 @@ std::optional<OrderFault> rowFault(const SiparisSatiri &row, int index, const Ha
 
 std::optional<OrderFault> checkOrder(const Siparis &siparis, const HasModel &hasModel)
 {
-    if (const std::optional<OrderFault> fault = headerFault(siparis))
+    if (std::optional<OrderFault> fault = headerFault(siparis))
         return fault;
     bool anyRow = false;
     for (qsizetype i = 0; i < siparis.satirlar.size(); ++i) {
@@ -60,7 +60,7 @@ std::optional<OrderFault> checkOrder(const Siparis &siparis, const HasModel &has
         if (row.model.isEmpty())
             continue;
         anyRow = true;
-        if (const std::optional<OrderFault> fault = rowFault(row, int(i), hasModel))
+        if (std::optional<OrderFault> fault = rowFault(row, int(i), hasModel))
             return fault;
     }
     if (!anyRow)

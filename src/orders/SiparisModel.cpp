@@ -5,7 +5,7 @@
 #include "Numbers.h"
 #include "TurkishText.h"
 
-#include <QColor>
+#include <QBrush>
 
 using namespace Qt::StringLiterals;
 
