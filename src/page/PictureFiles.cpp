@@ -2,9 +2,14 @@
 
 #include "TurkishText.h"
 
+#include <QBuffer>
 #include <QDirIterator>
 #include <QFileInfo>
 #include <QImageReader>
+#include <QImageWriter>
+#include <QPainter>
+#include <QSaveFile>
+#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +18,11 @@ namespace {
 /// More than the best cameras give; a larger one would take seconds and
 /// gigabytes to decode.
 constexpr qint64 mostPixels = 64'000'000;
+
+QString moldFolder()
+{
+    return u"KLP"_s;
+}
 
 bool isPlainName(const QString &name)
 {
@@ -55,6 +65,30 @@ QString pictureBelow(const QString &folder, const QString &subfolder, const QStr
         return {};
     const QString found = entryIn(folder, name, QDir::Dirs);
     return found.isEmpty() ? QString() : pictureIn(found, code);
+}
+
+[[noreturn]] void refuse(const QString &what, const QString &about)
+{
+    throw std::runtime_error((what + u'\n' + about).toStdString());
+}
+
+QString nameOfFile(const QString &folder, const QString &code)
+{
+    const QString name = code.trimmed();
+    if (folder.isEmpty())
+        refuse(u"Resim kaydedilemedi."_s, u"Şirketin resim klasörü tanımlı değil."_s);
+    if (!QFileInfo(folder).isDir())
+        refuse(u"Resim kaydedilemedi, resim klasörü bulunamadı:"_s,
+               QDir::toNativeSeparators(folder));
+    if (!isPlainName(name))
+        refuse(u"Resim kaydedilemedi, bu kod dosya adı olamaz:"_s, name);
+    return name + u".jpg"_s;
+}
+
+QString targetIn(const QString &folder, const QString &fileName)
+{
+    const QString there = entryIn(folder, fileName, QDir::Files);
+    return there.isEmpty() ? folder + u'/' + fileName : there;
 }
 
 quint16 bigEndian(const QByteArray &bytes)
@@ -111,6 +145,40 @@ QSize fitted(QSize size, QSize box)
     return fits ? size : size.scaled(box, Qt::KeepAspectRatio).expandedTo({1, 1});
 }
 
+bool isTooLarge(QSize size)
+{
+    return qint64(size.width()) * size.height() > mostPixels;
+}
+
+QString tooLargeText(QSize size)
+{
+    return u"Resim çok büyük (%1 x %2 nokta)."_s.arg(size.width()).arg(size.height());
+}
+
+/// JPEG knows no transparency and would make it black.
+QImage onWhite(const QImage &image)
+{
+    if (!image.hasAlphaChannel())
+        return image;
+    QImage result(image.size(), QImage::Format_RGB32);
+    result.fill(Qt::white);
+    QPainter(&result).drawImage(QRect(QPoint(), image.size()), image);
+    return result;
+}
+
+/// In memory, so that what fails later is the disk and nothing else.
+QByteArray jpegBytes(const QImage &image, const QString &path)
+{
+    constexpr int quality = 92; // no loss that shows in print
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, "jpeg"_ba);
+    writer.setQuality(quality);
+    if (!writer.write(onWhite(image)))
+        refuse(u"Resim kaydedilemedi: "_s + QDir::toNativeSeparators(path), writer.errorString());
+    return bytes;
+}
+
 QString name(const QString &path)
 {
     return QFileInfo(path).fileName();
@@ -133,7 +201,24 @@ QString modelPicturePath(const QString &folder, const QString &model, const QStr
 
 QString moldPicturePath(const QString &folder, const QString &code)
 {
-    return folder.isEmpty() ? QString() : pictureBelow(folder, u"KLP"_s, code);
+    return folder.isEmpty() ? QString() : pictureBelow(folder, moldFolder(), code);
+}
+
+QString modelPictureTarget(const QString &folder, const QString &model, const QString &shortName)
+{
+    const QString fileName = nameOfFile(folder, model);
+    const QString type = shortName.trimmed();
+    const QString typeFolder = isPlainName(type) ? entryIn(folder, type, QDir::Dirs) : QString();
+    return targetIn(typeFolder.isEmpty() ? folder : typeFolder, fileName);
+}
+
+QString moldPictureTarget(const QString &folder, const QString &code)
+{
+    const QString fileName = nameOfFile(folder, code);
+    if (entryIn(folder, moldFolder(), QDir::Dirs).isEmpty() && !QDir(folder).mkdir(moldFolder()))
+        refuse(u"Kalıp resimlerinin klasörü açılamadı:"_s,
+               QDir::toNativeSeparators(folder + u'/' + moldFolder()));
+    return targetIn(entryIn(folder, moldFolder(), QDir::Dirs), fileName);
 }
 
 PictureResult loadPicture(const QString &path, QSize maxSize)
@@ -153,10 +238,8 @@ PictureResult loadPicture(const QString &path, QSize maxSize)
     const QSize size = reader.size();
     if (!size.isValid() || size.isEmpty())
         return refused(path, u"Resim dosyası bozuk."_s);
-    if (qint64(size.width()) * size.height() > mostPixels) {
-        return refused(path,
-                       u"Resim çok büyük (%1 x %2 nokta)."_s.arg(size.width()).arg(size.height()));
-    }
+    if (isTooLarge(size))
+        return refused(path, tooLargeText(size));
     if (reader.format().startsWith("jp") && !isCompleteJpeg(path))
         return refused(path, u"Resim dosyası eksik, sonu kesilmiş."_s);
 
@@ -167,4 +250,26 @@ PictureResult loadPicture(const QString &path, QSize maxSize)
         reader.setScaledSize(target);
     const QImage image = reader.read();
     return image.isNull() ? refused(path, u"Resim dosyası bozuk."_s) : PictureResult{image, {}};
+}
+
+PictureResult fitPicture(const QImage &image, QSize maxSize)
+{
+    if (image.isNull())
+        return {{}, u"Panodaki ya da bırakılan veri bir resim değil."_s};
+    if (isTooLarge(image.size()))
+        return {{}, tooLargeText(image.size())};
+    const QSize size = fitted(image.size(), maxSize);
+    return {size == image.size()
+                ? image
+                : image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation),
+            {}};
+}
+
+void savePicture(const QImage &image, const QString &path)
+{
+    const QByteArray bytes = jpegBytes(image, path);
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
+        !file.commit())
+        refuse(u"Resim kaydedilemedi: "_s + QDir::toNativeSeparators(path), file.errorString());
 }

@@ -16,6 +16,15 @@ QString modelPicturePath(const QString &folder, const QString &model, const QStr
 /// folder/KLP/code.jpg; empty when it is not there.
 QString moldPicturePath(const QString &folder, const QString &code);
 
+/// Where a new picture of the model is to be written: folder/shortName where
+/// that folder is there, else the picture folder itself. A file of the name in
+/// another spelling is the one to replace. Both throw std::runtime_error with a
+/// Turkish text when the code cannot name a file or the folder is missing.
+QString modelPictureTarget(const QString &folder, const QString &model, const QString &shortName);
+
+/// The same for a mold's; makes the folder KLP where it is missing.
+QString moldPictureTarget(const QString &folder, const QString &code);
+
 struct PictureResult
 {
     QImage image;  ///< null when the file cannot be shown
@@ -26,3 +35,11 @@ struct PictureResult
 /// fit into maxSize and never larger. Broken, cut-off and oversized files give
 /// an error.
 PictureResult loadPicture(const QString &path, QSize maxSize);
+
+/// The same for a picture that another program handed over.
+PictureResult fitPicture(const QImage &image, QSize maxSize);
+
+/// Writes the picture as JPEG, whatever it was read from; what is transparent
+/// becomes white. The old file stays until the new one is wholly on disk.
+/// Throws std::runtime_error with a Turkish text.
+void savePicture(const QImage &image, const QString &path);

@@ -156,6 +156,16 @@ void PrintDocument::line(PagePoint from, PagePoint to, Twips width)
     add(PageLine{from, to, width});
 }
 
+void PrintDocument::frame(PagePoint at, Twips width, Twips height)
+{
+    const Twips right = at.x + width;
+    const Twips bottom = at.y + height;
+    line(at, {right, at.y});
+    line({right, at.y}, {right, bottom});
+    line({right, bottom}, {at.x, bottom});
+    line({at.x, bottom}, at);
+}
+
 void PrintDocument::picture(PagePoint at, Twips width, Twips height, const QImage &image)
 {
     add(PagePicture{at, width, height, image});

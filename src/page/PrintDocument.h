@@ -73,6 +73,8 @@ public:
     const PageFont &font() const { return m_font; }
     void text(PagePoint at, const QString &text);
     void line(PagePoint from, PagePoint to, Twips width = Twips(10));
+    /// Four lines around a box.
+    void frame(PagePoint at, Twips width, Twips height);
     /// Fitted into the box with its proportions kept, from the top left.
     void picture(PagePoint at, Twips width, Twips height, const QImage &image);
 

@@ -3,6 +3,11 @@
 
 #include <QtTest>
 
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -34,6 +39,31 @@ QByteArray turnedJpeg(int width, int height, char orientation)
     segment += char(length & 0xff);
     return jpeg(width, height).insert(2, segment + exif);
 }
+
+#ifdef Q_OS_UNIX
+/// While it lives no file can be written beyond its first bytes.
+class FullDisk
+{
+public:
+    FullDisk() : m_signal(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        getrlimit(RLIMIT_FSIZE, &m_limit);
+        const rlimit small{1000, m_limit.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &small);
+    }
+    ~FullDisk()
+    {
+        setrlimit(RLIMIT_FSIZE, &m_limit);
+        std::signal(SIGXFSZ, m_signal);
+    }
+    FullDisk(const FullDisk &) = delete;
+    FullDisk &operator=(const FullDisk &) = delete;
+
+private:
+    rlimit m_limit = {};
+    void (*m_signal)(int);
+};
+#endif
 
 } // namespace
 
@@ -124,7 +154,71 @@ private Q_SLOTS:
         QCOMPARE(loadPicture(m_folder, {9, 9}).error, u"resim: Resim dosyası bulunamadı."_s);
     }
 
+    void savesRealJpegs()
+    {
+        QImage image(30, 20, QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        const QString path = m_dir->filePath(u"Ağaç.jpg"_s);
+        savePicture(image, path);
+        QCOMPARE(read(path).first(3), QByteArray("\xff\xd8\xff"));
+        const QImage back = loadPicture(path, {99, 99}).image;
+        QCOMPARE(back.size(), image.size());
+        QCOMPARE(back.pixelColor(10, 10), QColor(Qt::white)); // never black
+    }
+
+    void keepsTheOldFileWhenTheDiskIsFull()
+    {
+#ifdef Q_OS_UNIX
+        const QString path = m_dir->filePath(u"eski.jpg"_s);
+        write(u"eski.jpg"_s, jpeg(40, 40));
+        const QByteArray old = read(path);
+        QString told;
+        {
+            const FullDisk full;
+            try {
+                savePicture(QImage::fromData(jpeg(600, 600)), path);
+            } catch (const std::runtime_error &error) {
+                told = QString::fromUtf8(error.what());
+            }
+        }
+        QVERIFY2(told.startsWith(u"Resim kaydedilemedi: "_s), qPrintable(told));
+        QCOMPARE(read(path), old);
+        QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList{u"eski.jpg"_s});
+#else
+        QSKIP("needs a limit on file sizes");
+#endif
+    }
+
+    void tellsWhereANewPictureGoes()
+    {
+        QCOMPARE(modelPictureTarget(m_folder, u"A5"_s, u"YZK"_s), m_folder + u"/yzk/A5.jpg"_s);
+        QCOMPARE(modelPictureTarget(m_folder, u"A5"_s, u"KLY"_s), m_folder + u"/A5.jpg"_s);
+        QVERIFY(!QFileInfo::exists(m_folder + u"/KLY"_s));
+        write(u"resim/yzk/a5.JPG"_s, "x");
+        QCOMPARE(modelPictureTarget(m_folder, u"A5"_s, u"YZK"_s), m_folder + u"/yzk/a5.JPG"_s);
+
+        QVERIFY(QDir(m_folder).rmdir(u"KLP"_s));
+        QCOMPARE(moldPictureTarget(m_folder, u" K-1"_s), m_folder + u"/KLP/K-1.jpg"_s);
+        QVERIFY(QFileInfo(m_folder + u"/KLP"_s).isDir());
+
+        for (const QString &code : {u"A/5"_s, u"..\\A5"_s, u".."_s, u"C:A5"_s, QString()}) {
+            QVERIFY_THROWS_EXCEPTION(std::runtime_error,
+                                     modelPictureTarget(m_folder, code, u"YZK"_s));
+            QVERIFY_THROWS_EXCEPTION(std::runtime_error, moldPictureTarget(m_folder, code));
+        }
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error,
+                                 moldPictureTarget(m_folder + u"/yok"_s, u"K-1"_s));
+        QVERIFY(!QFileInfo::exists(m_folder + u"/yok"_s));
+    }
+
 private:
+    static QByteArray read(const QString &path)
+    {
+        QFile file(path);
+        file.open(QIODevice::ReadOnly);
+        return file.readAll();
+    }
+
     void write(const QString &name, const QByteArray &bytes)
     {
         QFile file(m_dir->filePath(name));
