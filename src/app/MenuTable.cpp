@@ -5,19 +5,20 @@
 
 namespace {
 
-constexpr int orderEntry = 7;
+/// The factory of a screen that works with the common services.
+template <typename Screen>
+ScreenFactory screen(ScreenServices &services)
+{
+    return [&services](QWidget *parent) {
+        return std::make_unique<Screen>(services.context(), parent);
+    };
+}
 
 } // namespace
 
 MenuScreens menuTable(ScreenServices &services)
 {
     return {
-        {orderEntry,
-         [&services](QWidget *parent) {
-             return std::make_unique<Giris_Siparis>(
-                 OrderScreenContext{services.oturum, services.messages, services.openList,
-                                    services.viewer},
-                 parent);
-         }},
+        {7, screen<Giris_Siparis>(services)},
     };
 }

@@ -1,13 +1,10 @@
 #pragma once
 
-#include "LookupRequest.h"
 #include "Printers.h"
 #include "PrintPreview.h"
+#include "ScreenContext.h"
 
 #include <QSettings>
-
-class Messages;
-struct Oturum;
 
 /// What the program hands to its screens; made once, alive as long as they are.
 struct ScreenServices
@@ -15,6 +12,8 @@ struct ScreenServices
     ScreenServices(Oturum &oturum, Messages &messages);
     ScreenServices(const ScreenServices &) = delete;
     ScreenServices &operator=(const ScreenServices &) = delete;
+
+    ScreenContext context() { return {oturum, messages, openList, viewer}; }
 
     Oturum &oturum;
     Messages &messages;

@@ -15,7 +15,7 @@
 
 using namespace Qt::StringLiterals;
 
-Giris_Siparis::Giris_Siparis(const OrderScreenContext &context, QWidget *parent)
+Giris_Siparis::Giris_Siparis(const ScreenContext &context, QWidget *parent)
     : QDialog(parent, Qt::Window),
       m_context(context),
       m_store(context.oturum),

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "OrderLookups.h"
-#include "OrderScreenContext.h"
+#include "ScreenContext.h"
 #include "SiparisKontrol.h"
 #include "SiparisStore.h"
 
@@ -22,7 +22,7 @@ class Giris_Siparis : public QDialog
     Q_OBJECT
 
 public:
-    explicit Giris_Siparis(const OrderScreenContext &context, QWidget *parent = nullptr);
+    explicit Giris_Siparis(const ScreenContext &context, QWidget *parent = nullptr);
     ~Giris_Siparis() override;
 
     /// Leaves the screen, unless the user wants to keep what is not saved yet.
@@ -82,7 +82,7 @@ private:
     void showSlip(const Siparis &siparis);
     void afterSave(const Siparis &siparis);
 
-    OrderScreenContext m_context;
+    ScreenContext m_context;
     SiparisStore m_store;
     OrderLookups m_lookups;
     std::unique_ptr<Ui::Giris_Siparis> m_ui;

@@ -9,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-ModelEntry::ModelEntry(const OrderScreenContext &context, SiparisGrid *grid, SiparisModel *model)
+ModelEntry::ModelEntry(const ScreenContext &context, SiparisGrid *grid, SiparisModel *model)
     : QObject(grid), m_context(context), m_lookups(context.oturum), m_grid(grid), m_model(model)
 {
     grid->setModelEntry([this](const QString &text) { return enter(text); });

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "OrderLookups.h"
-#include "OrderScreenContext.h"
+#include "ScreenContext.h"
 #include "SiparisGrid.h"
 
 class SiparisModel;
@@ -14,7 +14,7 @@ class ModelEntry : public QObject
     Q_OBJECT
 
 public:
-    ModelEntry(const OrderScreenContext &context, SiparisGrid *grid, SiparisModel *model);
+    ModelEntry(const ScreenContext &context, SiparisGrid *grid, SiparisModel *model);
 
     ModelOutcome enter(const QString &text);
 
@@ -35,7 +35,7 @@ private:
     void GridKontrol(int row);
     void warn(const QString &text);
 
-    OrderScreenContext m_context;
+    ScreenContext m_context;
     OrderLookups m_lookups;
     SiparisGrid *m_grid;
     SiparisModel *m_model;

@@ -203,7 +203,7 @@ bool SiparisStore::save(Siparis &siparis) const
     }
 
     Transaction lines(*m_oturum->Veritabani);
-    execute(deleteLinesSql(siparis));
+    m_oturum->calistir(deleteLinesSql(siparis));
     addLines(*m_oturum, siparis, RowNumbers::Written);
     lines.commit();
     return true;
@@ -222,8 +222,8 @@ void SiparisStore::saveAsNew(Siparis &siparis, QDate SipTrh) const
 void SiparisStore::remove(qint32 Sipnum) const
 {
     Transaction removal(*m_oturum->Veritabani);
-    execute(u"DELETE From SiparisB Where Sipnum = "_s + sqlNumber(Sipnum));
-    execute(u"DELETE From SiparisD Where SipnumD = "_s + sqlNumber(Sipnum));
+    m_oturum->calistir(u"DELETE From SiparisB Where Sipnum = "_s + sqlNumber(Sipnum));
+    m_oturum->calistir(u"DELETE From SiparisD Where SipnumD = "_s + sqlNumber(Sipnum));
     removal.commit();
 }
 
@@ -235,10 +235,4 @@ void SiparisStore::addHeader(Siparis &siparis) const
     setHeader(headers, siparis);
     headers.update();
     siparis.Sipnum = qint32(headers.integer(u"Sipnum"));
-}
-
-void SiparisStore::execute(const QString &sql) const
-{
-    m_oturum->SonSQL = sql;
-    m_oturum->Veritabani->execute(sql);
 }

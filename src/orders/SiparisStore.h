@@ -39,7 +39,6 @@ private:
     QList<OrderLine> readLines(qint32 Sipnum) const;
     QList<KeptLine> otherLines(qint32 Sipnum, const QList<OrderLine> &shownLines) const;
     void addHeader(Siparis &siparis) const;
-    void execute(const QString &sql) const;
 
     Oturum *m_oturum;
 };

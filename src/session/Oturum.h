@@ -30,4 +30,10 @@ struct Oturum
         SonSQL = sql;
         return Veritabani->query(sql);
     }
+    /// Runs a statement that gives no rows, and keeps its text as well.
+    void calistir(const QString &sql)
+    {
+        SonSQL = sql;
+        Veritabani->execute(sql);
+    }
 };

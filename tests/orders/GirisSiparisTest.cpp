@@ -34,12 +34,12 @@ struct Screen : OrderFixture
     void open()
     {
         screen = std::make_unique<Giris_Siparis>(
-            OrderScreenContext{oturum, messages,
-                               [this](QWidget *, const LookupRequest &request) {
-                                   asked.append(request);
-                                   return answers.isEmpty() ? LookupAnswer() : answers.takeFirst();
-                               },
-                               viewer});
+            ScreenContext{oturum, messages,
+                          [this](QWidget *, const LookupRequest &request) {
+                              asked.append(request);
+                              return answers.isEmpty() ? LookupAnswer() : answers.takeFirst();
+                          },
+                          viewer});
         screen->show();
         QVERIFY(QTest::qWaitForWindowActive(screen.get()));
     }

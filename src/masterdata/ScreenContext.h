@@ -6,8 +6,8 @@ class DocumentViewer;
 class Messages;
 struct Oturum;
 
-/// What the order screen works with, handed in by the program.
-struct OrderScreenContext
+/// What the screens of orders and master data work with, handed in by the program.
+struct ScreenContext
 {
     Oturum &oturum;
     Messages &messages;
