@@ -2,6 +2,7 @@
 
 #include "Giris_Siparis.h"
 #include "ScreenServices.h"
+#include "Tanim_Tas.h"
 
 namespace {
 
@@ -19,6 +20,7 @@ ScreenFactory screen(ScreenServices &services)
 MenuScreens menuTable(ScreenServices &services)
 {
     return {
+        {0, screen<Tanim_Tas>(services)},
         {7, screen<Giris_Siparis>(services)},
     };
 }

@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QLineEdit>
 
 using namespace Qt::StringLiterals;
@@ -67,6 +68,35 @@ void ComboSecNo(QComboBox &list, qint64 number)
 void TumunuSec(QLineEdit &box)
 {
     box.selectAll();
+}
+
+namespace {
+
+class EntrySelection : public QObject
+{
+public:
+    explicit EntrySelection(QLineEdit *box) : QObject(box) {}
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::FocusIn) {
+            auto *box = static_cast<QLineEdit *>(watched);
+            const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+            // The click that brings the focus sets the cursor afterwards.
+            if (reason == Qt::MouseFocusReason)
+                QMetaObject::invokeMethod(box, &QLineEdit::selectAll, Qt::QueuedConnection);
+            else if (reason != Qt::ActiveWindowFocusReason && reason != Qt::PopupFocusReason)
+                TumunuSec(*box);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+} // namespace
+
+void selectOnEntry(QLineEdit &box)
+{
+    box.installEventFilter(new EntrySelection(&box));
 }
 
 template <typename Paint>

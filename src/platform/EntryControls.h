@@ -24,6 +24,9 @@ void ComboSec(QComboBox &list, const QString &text);
 void ComboSecNo(QComboBox &list, qint64 number);
 
 void TumunuSec(QLineEdit &box);
+/// Selects the box's whole text whenever the user goes into it. Coming back
+/// from another window or from the box's menu does not count: the cursor stays.
+void selectOnEntry(QLineEdit &box);
 
 /// Mark the grid's current row, cell by cell, in the model's own roles; the
 /// first column becomes the current one.

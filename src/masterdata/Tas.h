@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QString>
+
+/// A stone.
+struct Tas
+{
+    QString Taskodu;
+    double TasFiyati = 0;  ///< price of one unit
+    QString TasBirimi;     ///< the price's currency
+    double TasKatsayi = 0; ///< grams of one stone
+};

@@ -1,0 +1,50 @@
+#include "TasStore.h"
+
+#include "Oturum.h"
+#include "SqlText.h"
+
+using namespace Qt::StringLiterals;
+
+static QString findSql(const QString &Taskodu)
+{
+    return u"Select * From Tas Where Taskodu = "_s + sqlText(Taskodu.trimmed());
+}
+
+std::optional<Tas> TasStore::TasBul(const QString &Taskodu) const
+{
+    Recordset Kayit = m_oturum->sorgula(findSql(Taskodu));
+    if (!Kayit.next())
+        return std::nullopt;
+    return Tas{Kayit.text(u"Taskodu"), Kayit.number(u"TasFiyati"), Kayit.text(u"TasBirimi"),
+               Kayit.number(u"TasKatsayi")};
+}
+
+void TasStore::save(const Tas &tas) const
+{
+    Recordset Kayit = m_oturum->sorgula(findSql(tas.Taskodu));
+    if (Kayit.next()) {
+        Kayit.edit();
+    } else {
+        Kayit.addNew();
+        Kayit.set(u"Taskodu", tas.Taskodu.trimmed());
+        Kayit.set(u"tastarih", m_oturum->CalismaTarihi);
+    }
+    Kayit.set(u"TasFiyati", tas.TasFiyati);
+    Kayit.set(u"TasBirimi", tas.TasBirimi);
+    Kayit.set(u"TasKatsayi", tas.TasKatsayi);
+    Kayit.update();
+}
+
+void TasStore::remove(const QString &Taskodu) const
+{
+    m_oturum->calistir(u"DELETE From Tas Where Taskodu = "_s + sqlText(Taskodu.trimmed()));
+}
+
+QStringList TasStore::birimler() const
+{
+    Recordset Kayit = m_oturum->sorgula(u"Select * From DovizB"_s);
+    QStringList codes;
+    while (Kayit.next())
+        codes.append(Kayit.text(u"Dovcinsi"));
+    return codes;
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Tas.h"
+
+#include <optional>
+#include <QStringList>
+
+struct Oturum;
+
+/// Finds, saves and removes stones. Everything throws DatabaseError.
+class TasStore
+{
+public:
+    explicit TasStore(Oturum &oturum) : m_oturum(&oturum) {}
+
+    std::optional<Tas> TasBul(const QString &Taskodu) const;
+    /// Writes the stone of that code, or adds it, dated with the working date.
+    void save(const Tas &tas) const;
+    /// The models that use the stone keep its number.
+    void remove(const QString &Taskodu) const;
+    /// The currencies a price can be in.
+    QStringList birimler() const;
+
+private:
+    Oturum *m_oturum;
+};

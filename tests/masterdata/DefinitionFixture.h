@@ -1,0 +1,103 @@
+#pragma once
+
+#include "DocumentViewer.h"
+#include "Oturum.h"
+#include "SampleCompany.h"
+#include "ScreenContext.h"
+#include "ScriptedMessages.h"
+#include "SqliteEngine.h"
+#include "Typing.h"
+
+#include <QTemporaryDir>
+#include <QtTest>
+
+/// A definition screen on a fresh copy of the sample company, with a lookup
+/// list that answers as told beforehand.
+template <typename Screen>
+struct DefinitionFixture
+{
+    DefinitionFixture()
+    {
+        oturum.Veritabani = makeSampleCompany(dir.filePath(QStringLiteral("atolye.kuyum")));
+        oturum.ResimYolu = dir.filePath(QStringLiteral("resim"));
+        oturum.CalismaTarihi = QDate(2012, 6, 1);
+        open();
+    }
+
+    void open()
+    {
+        screen = std::make_unique<Screen>(
+            ScreenContext{oturum, messages,
+                          [this](QWidget *, const LookupRequest &request) {
+                              asked.append(request);
+                              return answers.isEmpty() ? LookupAnswer() : answers.takeFirst();
+                          },
+                          viewer});
+        screen->show();
+        QVERIFY(QTest::qWaitForWindowActive(screen.get()));
+    }
+
+    template <typename Widget = QWidget>
+    Widget *control(const QString &name) const
+    {
+        return screen->template findChild<Widget *>(name);
+    }
+    QString text(const QString &name) const
+    {
+        const auto *list = control<QComboBox>(name);
+        return list != nullptr ? list->currentText() : control<QLineEdit>(name)->text();
+    }
+    QString focus() const
+    {
+        return screen->focusWidget() == nullptr ? QString() : screen->focusWidget()->objectName();
+    }
+    bool isEditing() const { return control(QStringLiteral("cmdKayit"))->isEnabled(); }
+
+    /// Keys go wherever the focus is, as a keyboard's do.
+    void key(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) const
+    {
+        QTest::keyClick(screen->focusWidget(), key, held);
+    }
+    /// Text and Enter, into one control after the other.
+    void enter(const QStringList &texts = {QString()}) const
+    {
+        for (const QString &text : texts) {
+            typeText(screen->focusWidget(), text);
+            key(Qt::Key_Return);
+        }
+    }
+    /// A button by its letter; the button takes a moment to go down and up.
+    void press(Qt::Key letter, const QString &button) const
+    {
+        const QSignalSpy clicks(control<QPushButton>(button), &QPushButton::clicked);
+        key(letter, Qt::AltModifier);
+        QTRY_COMPARE(clicks.count(), 1);
+    }
+    void press(const QString &button) const { QTest::mouseClick(control(button), Qt::LeftButton); }
+
+    /// The first row's fields as "a|b|c", a null as nothing; "none" without a row.
+    QString row(const QString &sql) const
+    {
+        Recordset set = oturum.Veritabani->query(sql);
+        if (!set.next())
+            return QStringLiteral("none");
+        QStringList fields;
+        for (int i = 0; i < set.fieldCount(); ++i)
+            fields.append(set.text(set.fieldName(i)));
+        return fields.join(u'|');
+    }
+
+    QTemporaryDir dir;
+    Oturum oturum;
+    ScriptedMessages messages;
+    QList<LookupRequest> asked;
+    QList<LookupAnswer> answers;
+    std::unique_ptr<Screen> screen;
+
+private:
+    struct NoViewer : DocumentViewer
+    {
+        void show(QWidget *, const PrintDocument &) override { QFAIL("printed"); }
+    };
+    NoViewer viewer;
+};
