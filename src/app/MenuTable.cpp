@@ -2,7 +2,11 @@
 
 #include "Giris_Siparis.h"
 #include "ScreenServices.h"
+#include "Tanim_Ayar.h"
+#include "Tanim_Firma.h"
+#include "Tanim_Renk.h"
 #include "Tanim_Tas.h"
+#include "Tanim_Uruntipi.h"
 
 namespace {
 
@@ -20,7 +24,8 @@ ScreenFactory screen(ScreenServices &services)
 MenuScreens menuTable(ScreenServices &services)
 {
     return {
-        {0, screen<Tanim_Tas>(services)},
-        {7, screen<Giris_Siparis>(services)},
+        {0, screen<Tanim_Tas>(services)},   {2, screen<Tanim_Uruntipi>(services)},
+        {4, screen<Tanim_Firma>(services)}, {7, screen<Giris_Siparis>(services)},
+        {8, screen<Tanim_Ayar>(services)},  {9, screen<Tanim_Renk>(services)},
     };
 }

@@ -1,5 +1,6 @@
 #include "TasStore.h"
 
+#include "CounterFields.h"
 #include "Oturum.h"
 #include "SqlText.h"
 
@@ -25,6 +26,7 @@ void TasStore::save(const Tas &tas) const
     if (Kayit.next()) {
         Kayit.edit();
     } else {
+        requireCounter(*m_oturum->Veritabani, u"Tas"_s);
         Kayit.addNew();
         Kayit.set(u"Taskodu", tas.Taskodu.trimmed());
         Kayit.set(u"tastarih", m_oturum->CalismaTarihi);

@@ -1,0 +1,8 @@
+#pragma once
+
+/// A karat.
+struct Ayar
+{
+    double Milyem = 0;   ///< fineness in thousandths
+    double Yogunluk = 0; ///< density
+};

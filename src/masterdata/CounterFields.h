@@ -1,0 +1,9 @@
+#pragma once
+
+#include <QString>
+
+class Database;
+
+/// Throws a DatabaseError when the table has no counter: a row added to it
+/// would have no number for other tables to refer to.
+void requireCounter(const Database &db, const QString &table);

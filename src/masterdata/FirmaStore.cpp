@@ -1,0 +1,81 @@
+#include "FirmaStore.h"
+
+#include "CounterFields.h"
+#include "Numbers.h"
+#include "Oturum.h"
+#include "SqlText.h"
+
+using namespace Qt::StringLiterals;
+
+static QString findSql(qint32 Firkod)
+{
+    return u"Select * From Firma Where Firkod = "_s + sqlNumber(Firkod);
+}
+
+std::optional<Firma> FirmaStore::FirmaBul(qint32 Firkod) const
+{
+    Recordset Kayit = m_oturum->sorgula(findSql(Firkod));
+    if (!Kayit.next())
+        return std::nullopt;
+    return Firma{Firkod,
+                 Kayit.text(u"KisaAD"),
+                 Kayit.text(u"FirAdi"),
+                 Kayit.text(u"Yetkili"),
+                 Kayit.text(u"Telefon"),
+                 Kayit.text(u"Mail"),
+                 qint32(Kayit.integer(u"UlkeID")),
+                 Kayit.text(u"Aciklama")};
+}
+
+void FirmaStore::save(const Firma &firma) const
+{
+    Recordset Kayit = m_oturum->sorgula(findSql(firma.Firkod));
+    if (Kayit.next()) {
+        Kayit.edit();
+    } else {
+        Kayit.addNew();
+        Kayit.set(u"Firkod", firma.Firkod);
+    }
+    Kayit.set(u"KisaAD", firma.KisaAD.trimmed());
+    Kayit.set(u"FirAdi", firma.FirAdi.trimmed());
+    Kayit.set(u"Yetkili", firma.Yetkili.trimmed());
+    Kayit.set(u"Telefon", firma.Telefon.trimmed());
+    Kayit.set(u"Mail", firma.Mail.trimmed());
+    Kayit.set(u"UlkeID", firma.UlkeID);
+    Kayit.set(u"Aciklama", firma.Aciklama);
+    Kayit.update();
+}
+
+bool FirmaStore::hasOrders(qint32 Firkod) const
+{
+    return m_oturum
+        ->sorgula(u"Select Top 1 Sipnum from SiparisB Where Sipfirkod = "_s + sqlNumber(Firkod))
+        .next();
+}
+
+void FirmaStore::remove(qint32 Firkod) const
+{
+    m_oturum->calistir(u"DELETE From Firma Where Firkod = "_s + sqlNumber(Firkod));
+}
+
+QList<Ulke> FirmaStore::ulkeler() const
+{
+    Recordset Kayit = m_oturum->sorgula(u"Select * From ulkeler"_s);
+    QList<Ulke> countries;
+    while (Kayit.next())
+        countries.append({qint32(Kayit.integer(u"ID")), Kayit.text(u"ulke_ADI")});
+    return countries;
+}
+
+qint32 FirmaStore::ulkeTanimla(const QString &ulke_ADI) const
+{
+    Recordset Kayit =
+        m_oturum->sorgula(u"Select * From Ulkeler Where Ulke_ADI = "_s + sqlText(ulke_ADI));
+    if (!Kayit.next()) {
+        requireCounter(*m_oturum->Veritabani, u"Ulkeler"_s);
+        Kayit.addNew();
+        Kayit.set(u"ulke_ADI", ulke_ADI);
+        Kayit.update();
+    }
+    return qint32(Kayit.integer(u"ID"));
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Firma.h"
+
+#include <optional>
+#include <QList>
+
+struct Oturum;
+
+/// Finds, saves and removes customers, and keeps their countries. Everything
+/// throws DatabaseError.
+class FirmaStore
+{
+public:
+    explicit FirmaStore(Oturum &oturum) : m_oturum(&oturum) {}
+
+    std::optional<Firma> FirmaBul(qint32 Firkod) const;
+    /// Writes the customer of that code, or adds it. Only the note keeps the
+    /// blanks around it.
+    void save(const Firma &firma) const;
+    /// A customer with orders must stay.
+    bool hasOrders(qint32 Firkod) const;
+    void remove(qint32 Firkod) const;
+
+    QList<Ulke> ulkeler() const;
+    /// The number of the country of that name, which is added when it is new.
+    qint32 ulkeTanimla(const QString &ulke_ADI) const;
+
+private:
+    Oturum *m_oturum;
+};

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "AyarStore.h"
+#include "TanimEkrani.h"
+
+#include <memory>
+
+namespace Ui {
+class Tanim_Ayar;
+}
+
+/// Definition of the karats.
+class Tanim_Ayar : public TanimEkrani
+{
+    Q_OBJECT
+
+public:
+    explicit Tanim_Ayar(const ScreenContext &context, QWidget *parent = nullptr);
+    ~Tanim_Ayar() override;
+
+private:
+    bool hasKey() const override;
+    bool pickKey() override;
+    Found readRow() override;
+    bool writeRow() override;
+    bool mayRemove() override;
+    void removeRow() override;
+    double Milyem() const;
+
+    AyarStore m_store;
+    std::unique_ptr<Ui::Tanim_Ayar> m_ui;
+};

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "RenkStore.h"
+#include "TanimEkrani.h"
+
+#include <memory>
+
+namespace Ui {
+class Tanim_Renk;
+}
+
+/// Definition of the colours.
+class Tanim_Renk : public TanimEkrani
+{
+    Q_OBJECT
+
+public:
+    explicit Tanim_Renk(const ScreenContext &context, QWidget *parent = nullptr);
+    ~Tanim_Renk() override;
+
+private:
+    bool pickKey() override;
+    Found readRow() override;
+    bool writeRow() override;
+    bool mayRemove() override;
+    void removeRow() override;
+
+    RenkStore m_store;
+    std::unique_ptr<Ui::Tanim_Renk> m_ui;
+};

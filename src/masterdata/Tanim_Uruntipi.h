@@ -1,0 +1,32 @@
+#pragma once
+
+#include "TanimEkrani.h"
+#include "UrunTipiStore.h"
+
+#include <memory>
+
+namespace Ui {
+class Tanim_Uruntipi;
+}
+
+/// Definition of the product types. Without a number, Enter begins a new one.
+class Tanim_Uruntipi : public TanimEkrani
+{
+    Q_OBJECT
+
+public:
+    explicit Tanim_Uruntipi(const ScreenContext &context, QWidget *parent = nullptr);
+    ~Tanim_Uruntipi() override;
+
+private:
+    bool hasKey() const override;
+    bool pickKey() override;
+    Found readRow() override;
+    bool writeRow() override;
+    bool mayRemove() override;
+    void removeRow() override;
+    double TipID() const;
+
+    UrunTipiStore m_store;
+    std::unique_ptr<Ui::Tanim_Uruntipi> m_ui;
+};
