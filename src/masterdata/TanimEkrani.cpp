@@ -33,8 +33,12 @@ void TanimEkrani::setUpForm(const Form &form)
         button->setAutoDefault(false); // Enter on a text must not press a button
     form.parts.cmdKayit->setDefault(true);
     QPalette muted = palette();
-    muted.setColor(QPalette::WindowText, themeColors(muted).muted);
-    form.parts.kayitDurumu->setPalette(muted);
+    const QColor mutedText = themeColors(muted).muted;
+    muted.setColor(QPalette::WindowText, mutedText);
+    // While its row is edited, the key cannot be typed in but must be read.
+    muted.setColor(QPalette::Disabled, QPalette::Text, mutedText);
+    for (QWidget *control : form.keys + QList<QWidget *>{form.parts.kayitDurumu})
+        control->setPalette(muted);
 
     for (QWidget *control : form.keys + form.values) {
         if (auto *box = qobject_cast<QLineEdit *>(control)) {

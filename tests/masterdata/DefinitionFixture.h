@@ -35,6 +35,7 @@ struct DefinitionFixture
                           viewer});
         screen->show();
         QVERIFY(QTest::qWaitForWindowActive(screen.get()));
+        QCOMPARE(sharedLetters(), QStringList());
     }
 
     template <typename Widget = QWidget>
@@ -52,6 +53,25 @@ struct DefinitionFixture
         return screen->focusWidget() == nullptr ? QString() : screen->focusWidget()->objectName();
     }
     bool isEditing() const { return control(QStringLiteral("cmdKayit"))->isEnabled(); }
+
+    /// The Alt letters that two controls of the screen have.
+    QStringList sharedLetters() const
+    {
+        QStringList texts;
+        for (const auto *label : screen->template findChildren<QLabel *>())
+            texts.append(label->text());
+        for (const auto *button : screen->template findChildren<QAbstractButton *>())
+            texts.append(button->text());
+        QSet<QKeySequence> seen;
+        QStringList shared;
+        for (const QString &text : texts) {
+            const QKeySequence letter = QKeySequence::mnemonic(text);
+            if (!letter.isEmpty() && seen.contains(letter))
+                shared.append(text);
+            seen.insert(letter);
+        }
+        return shared;
+    }
 
     /// Keys go wherever the focus is, as a keyboard's do.
     void key(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) const

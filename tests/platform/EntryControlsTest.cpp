@@ -14,6 +14,7 @@ class EntryControlsTest : public QObject
 private Q_SLOTS:
     void numericBox_data();
     void numericBox();
+    void selectionOnEntry();
     void listSelection();
     void rowMarks();
     void dateBoxCompletesWhatIsADate();
@@ -45,6 +46,31 @@ void EntryControlsTest::numericBox()
     messages.verify();
     QTEST(box.text(), "kept");
     QCOMPARE(box.cursorPosition(), box.text().size());
+}
+
+void EntryControlsTest::selectionOnEntry()
+{
+    QWidget window;
+    QLineEdit before(&window);
+    QLineEdit box(u"0123456789"_s, &window);
+    box.setGeometry(0, 60, 200, 30);
+    selectOnEntry(box);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    before.setFocus();
+    QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(30, 15));
+    QTRY_COMPARE(box.selectedText(), u"0123456789"_s);
+    QTest::mouseClick(&box, Qt::LeftButton, {}, QPoint(31, 15));
+    QCoreApplication::processEvents();
+    QCOMPARE(box.selectedText(), QString());
+
+    before.setFocus();
+    box.setFocus();
+    QCOMPARE(box.selectedText(), u"0123456789"_s);
+    box.setCursorPosition(3);
+    QFocusEvent back(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(&box, &back);
+    QCOMPARE(box.selectedText(), QString());
 }
 
 void EntryControlsTest::listSelection()
