@@ -1,5 +1,6 @@
 #include "DocumentViewer.h"
 #include "Giris_Siparis.h"
+#include "Keyboard.h"
 #include "OrderFixture.h"
 #include "PrintDocument.h"
 #include "ScriptedMessages.h"
@@ -23,7 +24,7 @@ public:
 
 /// The order screen on a fresh company, with a lookup list that answers as
 /// told beforehand.
-struct Screen : OrderFixture
+struct Screen : OrderFixture, Keyboard
 {
     Screen()
     {
@@ -65,23 +66,6 @@ struct Screen : OrderFixture
         return {grid()->currentIndex().row(), grid()->currentIndex().column()};
     }
 
-    /// Keys go wherever the focus is, as a keyboard's do.
-    static void key(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier)
-    {
-        QTest::keyClick(QApplication::focusWidget(), key, held);
-    }
-    static void type(const QString &text)
-    {
-        for (const QChar c : text) {
-            QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, c);
-            QApplication::sendEvent(QApplication::focusWidget(), &press);
-        }
-    }
-    static void enter(const QString &text = {})
-    {
-        type(text);
-        key(Qt::Key_Return);
-    }
     void press(const QString &button) const { QTest::mouseClick(control(button), Qt::LeftButton); }
     /// Alt and the save button's letter, up to the message that follows.
     void saveByKey() const
