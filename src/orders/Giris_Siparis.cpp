@@ -197,7 +197,7 @@ void Giris_Siparis::TusKapa()
     m_ui->TesTrh->setDate(m_context.oturum.CalismaTarihi);
     Gridbosalt();
     m_ui->Resim->clear();
-    m_modelEntry->forgetUnknownLabels();
+    m_modelEntry->forgetNotFound();
     for (QLabel *line : {m_ui->warningLine, m_ui->keptLinesNote}) {
         line->clear();
         line->hide();
