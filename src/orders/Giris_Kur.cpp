@@ -193,7 +193,7 @@ QString Giris_Kur::noteOn(QDate Tarih, bool hasOwn) const
     const QDate origin = m_store.carriedFrom(Tarih);
     if (!origin.isValid())
         return {};
-    return u"%1 tarihinden taşınan kurlar, o günden beri değişmedi."_s.arg(formatDate(origin));
+    return u"Kurlar %1 tarihinden taşındı, o günden beri değişmedi."_s.arg(formatDate(origin));
 }
 
 void Giris_Kur::pickDate()

@@ -253,7 +253,7 @@ void GirisKurTest::tellsWhereRatesComeFrom()
     const QString origin = u"02.03.2012 tarihinden"_s;
     s.goTo(u"12032012"_s);
     QCOMPARE(s.shown(), QStringList(u"USD 1.9000"_s));
-    QVERIFY(s.note().startsWith(origin));
+    QVERIFY(s.note().contains(origin));
     s.key(Qt::Key_Escape);
     s.goTo(u"02032012"_s);
     QCOMPARE(s.note(), QString());
@@ -261,7 +261,7 @@ void GirisKurTest::tellsWhereRatesComeFrom()
 
     // A changed day is the origin of those that follow it.
     s.goTo(u"09032012"_s);
-    QVERIFY(s.note().startsWith(origin));
+    QVERIFY(s.note().contains(origin));
     s.type(u"1.95"_s);
     s.key(Qt::Key_K, Qt::AltModifier);
     QTRY_VERIFY(!s.isEntering());
@@ -273,7 +273,7 @@ void GirisKurTest::tellsWhereRatesComeFrom()
     QCOMPARE(s.note(), QString());
     s.key(Qt::Key_Escape);
     s.goTo(u"05032012"_s);
-    QVERIFY(s.note().startsWith(origin));
+    QVERIFY(s.note().contains(origin));
 }
 
 void GirisKurTest::keepsBuyingRatesOrNot()
