@@ -198,7 +198,9 @@ void measureScreen(Oturum &oturum, int runs)
     NoMessages messages;
     NoViewer viewer;
     const auto noList = [](QWidget *, const LookupRequest &) { return LookupAnswer(); };
-    Giris_Siparis screen({oturum, messages, noList, viewer});
+    const QTemporaryDir settingsFolder;
+    QSettings settings(settingsFolder.filePath(u"ayarlar.ini"_s), QSettings::IniFormat);
+    Giris_Siparis screen({oturum, messages, noList, viewer}, settings);
     screen.show();
     auto *clear = screen.findChild<QPushButton *>(u"cmdvazgec"_s);
     const double opening = middleMilliseconds(

@@ -116,13 +116,13 @@ int main(int argc, char **argv)
     }
     const Siparis order = makeOrder();
     const PrintDocument document =
-        siparisFisi(order, MusteriKimligi::Kisa, toplamGram(oturum, order));
+        siparisFisi(order, MusteriKimligi::Kisa, orderGrams(oturum, order).total);
 
     const double rawGrams =
         middleMilliseconds(runs, [&] { readWeights(oturum.Veritabani->engine(), order); });
     const double rawPdf =
         middleMilliseconds(runs, [&] { writeTexts(document, folder.filePath(u"yalin.pdf"_s)); });
-    const double grams = middleMilliseconds(runs, [&] { toplamGram(oturum, order); });
+    const double grams = middleMilliseconds(runs, [&] { orderGrams(oturum, order).total; });
     const double layout =
         middleMilliseconds(runs, [&] { siparisFisi(order, MusteriKimligi::Kisa, 1); });
     const double pdf =

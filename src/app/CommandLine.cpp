@@ -10,7 +10,10 @@ namespace {
 /// Every word of the command line, one row each.
 constexpr Command commands[] = {
     {u"aktar", u"kuyum aktar KAYNAK.mdb HEDEF.kuyum", aktarCommand},
-    {u"fis", u"kuyum fis VERITABANI SIPARIS --pdf DOSYA [--musteri kisa|ad|kod]", fisCommand, true},
+    {u"fis",
+     u"kuyum fis VERITABANI SIPARIS --pdf DOSYA [--resimli 7|12|15] [--musteri kisa|ad|kod] "
+     "[--resim KLASOR]",
+     fisCommand, true},
     {u"sorgu", u"kuyum sorgu VERITABANI \"SELECT ...\"", sorguCommand},
     {u"demo", u"kuyum demo KLASOR [--olcek N]", demoCommand, true},
 };

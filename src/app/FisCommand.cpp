@@ -1,12 +1,12 @@
 #include "CommandLine.h"
-
+#include "CompanyPictures.h"
+#include "OrderSlip.h"
 #include "Oturum.h"
 #include "ReadableDatabase.h"
-#include "SiparisFisi.h"
 #include "SiparisStore.h"
-#include "ToplamGram.h"
 
 #include <QCommandLineParser>
+#include <QFileInfo>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -18,7 +18,8 @@ struct FisIstegi
     QString database;
     qint32 Sipnum = 0;
     QString pdf;
-    MusteriKimligi kimlik = MusteriKimligi::Kisa;
+    QString resimKlasoru;
+    SlipChoice choice;
 };
 
 MusteriKimligi readIdentity(const QString &word)
@@ -29,6 +30,15 @@ MusteriKimligi readIdentity(const QString &word)
         return MusteriKimligi::Ad;
     if (word == u"kod")
         return MusteriKimligi::Kod;
+    throw WrongUsage();
+}
+
+int readCount(const QString &word)
+{
+    for (const int adet : {7, 12, 15}) {
+        if (word == QString::number(adet))
+            return adet;
+    }
     throw WrongUsage();
 }
 
@@ -45,14 +55,21 @@ FisIstegi readRequest(const QStringList &arguments)
     const QStringList words = parser.positionalArguments();
     if (words.size() != 2 || parser.value(pdf).isEmpty())
         throw WrongUsage();
-    if (parser.isSet(pictures) || parser.isSet(folder))
-        throw std::runtime_error("Resimli fiş henüz hazır değil; --resimli ve --resim olmadan "
-                                 "düz liste yazdırılabilir.");
     bool isNumber = false;
-    FisIstegi request{words[0], words[1].toInt(&isNumber), parser.value(pdf),
-                      readIdentity(parser.value(identity))};
+    FisIstegi request;
+    request.database = words[0];
+    request.Sipnum = words[1].toInt(&isNumber);
+    request.pdf = parser.value(pdf);
+    request.resimKlasoru = parser.value(folder);
+    request.choice.kimlik = readIdentity(parser.value(identity));
+    request.choice.resimli = parser.isSet(pictures);
+    if (request.choice.resimli)
+        request.choice.adet = readCount(parser.value(pictures));
     if (!isNumber)
         throw WrongUsage();
+    if (parser.isSet(folder) && !QFileInfo(request.resimKlasoru).isDir())
+        throw std::runtime_error(
+            (u"Resim klasörü bulunamadı: "_s + request.resimKlasoru).toStdString());
     return request;
 }
 
@@ -77,7 +94,12 @@ int fisCommand(const QStringList &arguments)
     ReadableDatabase source = openForReading(request.database);
     Oturum oturum;
     oturum.Veritabani = std::move(source.db);
+    if (request.choice.resimli) {
+        oturum.ResimYolu = request.resimKlasoru.isEmpty() ? pictureFolderOf(request.database)
+                                                          : request.resimKlasoru;
+    }
     const Siparis siparis = findOrder(oturum, request.Sipnum);
-    writePdf(siparisFisi(siparis, request.kimlik, toplamGram(oturum, siparis)), request.pdf);
+    const auto goOn = [](int, int) { return true; };
+    writePdf(*orderSlip(oturum, siparis, request.choice, goOn), request.pdf);
     return 0;
 }

@@ -1,6 +1,5 @@
 #include "MenuTable.h"
 
-#include "Giris_Kur.h"
 #include "Giris_Siparis.h"
 #include "ScreenServices.h"
 #include "Tanim_Ayar.h"
@@ -20,20 +19,22 @@ ScreenFactory screen(ScreenServices &services)
     };
 }
 
+/// The same for one that remembers how the user wants it.
+template <typename Screen>
+ScreenFactory rememberingScreen(ScreenServices &services)
+{
+    return [&services](QWidget *parent) {
+        return std::make_unique<Screen>(services.context(), services.settings, parent);
+    };
+}
+
 } // namespace
 
 MenuScreens menuTable(ScreenServices &services)
 {
     return {
-        {0, screen<Tanim_Tas>(services)},
-        {2, screen<Tanim_Uruntipi>(services)},
-        {4, screen<Tanim_Firma>(services)},
-        {5,
-         [&services](QWidget *parent) {
-             return std::make_unique<Giris_Kur>(services.context(), services.settings, parent);
-         }},
-        {7, screen<Giris_Siparis>(services)},
-        {8, screen<Tanim_Ayar>(services)},
-        {9, screen<Tanim_Renk>(services)},
+        {0, screen<Tanim_Tas>(services)},   {2, screen<Tanim_Uruntipi>(services)},
+        {4, screen<Tanim_Firma>(services)}, {7, rememberingScreen<Giris_Siparis>(services)},
+        {8, screen<Tanim_Ayar>(services)},  {9, screen<Tanim_Renk>(services)},
     };
 }

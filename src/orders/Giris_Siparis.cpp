@@ -9,14 +9,16 @@
 #include "Theme.h"
 #include "ui_Giris_Siparis.h"
 
+#include <QButtonGroup>
 #include <QKeyEvent>
 #include <QScreen>
 
 using namespace Qt::StringLiterals;
 
-Giris_Siparis::Giris_Siparis(const ScreenContext &context, QWidget *parent)
+Giris_Siparis::Giris_Siparis(const ScreenContext &context, QSettings &settings, QWidget *parent)
     : QDialog(parent, Qt::Window),
       m_context(context),
+      m_settings(settings),
       m_store(context.oturum),
       m_lookups(context.oturum),
       m_ui(std::make_unique<Ui::Giris_Siparis>()),
@@ -27,6 +29,7 @@ Giris_Siparis::Giris_Siparis(const ScreenContext &context, QWidget *parent)
     m_modelEntry = new ModelEntry(m_context, m_ui->Rapor, m_model);
     setUpLook();
     fillChoices();
+    readSlipChoice();
     limitEntries();
     connectControls();
     connectGrid();
@@ -62,6 +65,9 @@ void Giris_Siparis::fillChoices()
     m_ui->TesTrh->setLocale(turkish);
     m_ui->Rapor->setColours(m_lookups.colours());
     m_model->setTypes(m_store.productTypes());
+    auto *identity = new QButtonGroup(this);
+    for (QCheckBox *box : {m_ui->Check_Kisaad, m_ui->Check_Kod, m_ui->Check_AD})
+        identity->addButton(box);
 }
 
 /// No box takes more than its field does, so that a save never refuses a text.
@@ -102,6 +108,9 @@ void Giris_Siparis::connectControls()
     bind(m_ui->cmdvazgec, &Giris_Siparis::abandon);
     bind(m_ui->cmdSon, &Giris_Siparis::reject);
     bind(m_ui->SabitRenk, &Giris_Siparis::pickFixedColour);
+    bind(m_ui->LabelAdet, &Giris_Siparis::nextAdet);
+    for (QCheckBox *box : {m_ui->Check_Kisaad, m_ui->Check_Kod, m_ui->Check_AD, m_ui->Check_Resim})
+        connect(box, &QCheckBox::clicked, this, &Giris_Siparis::keepSlipChoice);
     keepNumeric(*m_ui->Sipnum, m_context.messages);
     keepNumeric(*m_ui->Ayar, m_context.messages);
     connect(m_ui->FirAdi, &QLineEdit::textEdited, this, &Giris_Siparis::customerTyped);
@@ -193,7 +202,7 @@ void Giris_Siparis::TusKapa()
     m_ui->TesTrh->setDate(m_context.oturum.CalismaTarihi);
     Gridbosalt();
     m_ui->Resim->clear();
-    m_modelEntry->forgetNotFound();
+    m_modelEntry->forgetUnknownLabels();
     for (QLabel *line : {m_ui->warningLine, m_ui->keptLinesNote}) {
         line->clear();
         line->hide();

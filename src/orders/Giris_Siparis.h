@@ -1,6 +1,7 @@
 #pragma once
 
 #include "OrderLookups.h"
+#include "OrderSlip.h"
 #include "ScreenContext.h"
 #include "SiparisKontrol.h"
 #include "SiparisStore.h"
@@ -9,6 +10,7 @@
 #include <QDialog>
 
 class ModelEntry;
+class QSettings;
 class SiparisModel;
 
 namespace Ui {
@@ -22,7 +24,8 @@ class Giris_Siparis : public QDialog
     Q_OBJECT
 
 public:
-    explicit Giris_Siparis(const ScreenContext &context, QWidget *parent = nullptr);
+    /// The settings remember how the slip is wanted.
+    Giris_Siparis(const ScreenContext &context, QSettings &settings, QWidget *parent = nullptr);
     ~Giris_Siparis() override;
 
     /// Leaves the screen, unless the user wants to keep what is not saved yet.
@@ -66,7 +69,6 @@ private:
     void pickFixedColour();
     enum class PictureError { Tell, Skip };
     void ResimGoster(const QString &model, PictureError onError);
-    QString picturePath(const QString &model) const;
     void showWarning(const QString &text);
 
     // Saving
@@ -78,11 +80,19 @@ private:
     void save();
     void saveAsNew();
     void removeOrder();
-    void print();
-    void showSlip(const Siparis &siparis);
     void afterSave(const Siparis &siparis);
 
+    // The slip
+    void readSlipChoice();
+    void keepSlipChoice();
+    SlipChoice slipChoice() const;
+    void showAdet(int adet);
+    void nextAdet();
+    void print();
+    void showSlip(const Siparis &siparis);
+
     ScreenContext m_context;
+    QSettings &m_settings;
     SiparisStore m_store;
     OrderLookups m_lookups;
     std::unique_ptr<Ui::Giris_Siparis> m_ui;

@@ -5,7 +5,6 @@
 #include "ModelEntry.h"
 #include "Numbers.h"
 #include "Oturum.h"
-#include "PictureFiles.h"
 #include "SiparisModel.h"
 #include "ui_Giris_Siparis.h"
 
@@ -205,7 +204,7 @@ void Giris_Siparis::ResimGoster(const QString &model, PictureError onError)
         return;
     QString error;
     try {
-        m_ui->Resim->showFile(picturePath(model));
+        m_ui->Resim->showFile(m_lookups.picturePath(model));
         error = m_ui->Resim->error();
     } catch (const std::exception &failure) {
         error = QString::fromUtf8(failure.what());
@@ -217,20 +216,6 @@ void Giris_Siparis::ResimGoster(const QString &model, PictureError onError)
         showWarning(error);
     else
         m_context.messages.say(this, error);
-}
-
-QString Giris_Siparis::picturePath(const QString &model) const
-{
-    const QString &folder = m_context.oturum.ResimYolu;
-    QString path = modelPicturePath(folder, model, {});
-    if (!path.isEmpty())
-        return path;
-    for (const QString &KisaAD : m_lookups.pictureTypes(model)) {
-        path = modelPicturePath(folder, model, KisaAD);
-        if (!path.isEmpty())
-            break;
-    }
-    return path;
 }
 
 void Giris_Siparis::showWarning(const QString &text)

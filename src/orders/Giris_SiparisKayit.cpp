@@ -1,18 +1,15 @@
 #include "Giris_Siparis.h"
 
 #include "Dates.h"
-#include "DocumentViewer.h"
 #include "Guarded.h"
 #include "Numbers.h"
 #include "Oturum.h"
-#include "SiparisFisi.h"
 #include "SiparisModel.h"
-#include "ToplamGram.h"
 #include "ui_Giris_Siparis.h"
 
 using namespace Qt::StringLiterals;
 
-/// The order entry screen: checking, saving, removing and printing an order.
+/// The order entry screen: checking, saving and removing an order.
 
 Siparis Giris_Siparis::collect() const
 {
@@ -116,7 +113,9 @@ void Giris_Siparis::saveAsNew()
     const std::optional<QString> answer =
         m_context.messages.input(this, u"SİPARİŞ TARİHİ"_s, u"SİPARİŞ TARİH BİLGİSİ"_s,
                                  formatDate(m_context.oturum.CalismaTarihi));
-    const QDate date = parseDate(answer.value_or(QString()));
+    if (!answer)
+        return;
+    const QDate date = parseDate(*answer);
     if (!date.isValid()) {
         m_context.messages.say(this, u"HATALI TARIH BILGISI GIRILIYOR!"_s, MessageIcon::Exclamation,
                                u"HATA"_s);
@@ -151,19 +150,4 @@ void Giris_Siparis::removeOrder()
         return;
     m_store.remove(m_stored);
     TusKapa();
-}
-
-void Giris_Siparis::print()
-{
-    if (m_ui->Rapor->finishEdit())
-        showSlip(collect());
-}
-
-void Giris_Siparis::showSlip(const Siparis &siparis)
-{
-    const MusteriKimligi identity = m_ui->Check_AD->isChecked()    ? MusteriKimligi::Ad
-                                    : m_ui->Check_Kod->isChecked() ? MusteriKimligi::Kod
-                                                                   : MusteriKimligi::Kisa;
-    const double grams = toplamGram(m_context.oturum, siparis);
-    m_context.viewer.show(this, siparisFisi(siparis, identity, grams));
 }

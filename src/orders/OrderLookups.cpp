@@ -2,6 +2,7 @@
 
 #include "Numbers.h"
 #include "Oturum.h"
+#include "PictureFiles.h"
 #include "ProductLabel.h"
 #include "SqlText.h"
 #include "TurkishText.h"
@@ -81,6 +82,20 @@ QHash<QString, QStringList> OrderLookups::typesOfOrder(qint32 Sipnum) const
     return types;
 }
 
+QString OrderLookups::picturePath(const QString &model) const
+{
+    const QString &folder = m_oturum->ResimYolu;
+    QString path = modelPicturePath(folder, model, {});
+    if (!path.isEmpty() || folder.isEmpty())
+        return path;
+    for (const QString &KisaAD : pictureTypes(model)) {
+        path = modelPicturePath(folder, model, KisaAD);
+        if (!path.isEmpty())
+            break;
+    }
+    return path;
+}
+
 QStringList OrderLookups::pictureTypes(const QString &model) const
 {
     Recordset Kayit = m_oturum->sorgula(
@@ -110,8 +125,8 @@ qint32 OrderLookups::UrunTipIdBul(const QString &KisaAD) const
     return Kayit.next() ? qint32(Kayit.integer(u"TipID")) : 0;
 }
 
-float OrderLookups::UrGram(const QString &model) const
+double OrderLookups::UrGram(const QString &model) const
 {
     Recordset Kayit = m_oturum->sorgula(u"Select * From Model Where Model = "_s + sqlText(model));
-    return Kayit.next() ? float(Kayit.number(u"m_miktar")) : 0.0F;
+    return Kayit.next() ? Kayit.number(u"m_miktar") : 0.0;
 }

@@ -42,17 +42,19 @@ public:
     QStringList typesOfModel(const QString &model) const;
     /// The same for all models of an order's lines, by folded model code.
     QHash<QString, QStringList> typesOfOrder(qint32 Sipnum) const;
-    /// Where a model's picture may lie besides the picture folder itself.
-    QStringList pictureTypes(const QString &model) const;
+    /// A model's picture: in the picture folder itself, or else in the folder
+    /// of one of its product types; empty when there is none.
+    QString picturePath(const QString &model) const;
     /// The colours in their display order.
     QStringList colours() const;
     /// The product type of a short name; 0 for an unknown one.
     qint32 UrunTipIdBul(const QString &KisaAD) const;
     /// Grams of one piece of a model; 0 for an unknown one.
-    float UrGram(const QString &model) const;
+    double UrGram(const QString &model) const;
 
 private:
     std::optional<FoundModel> byCode(const QString &kod) const;
+    QStringList pictureTypes(const QString &model) const;
 
     Oturum *m_oturum;
 };

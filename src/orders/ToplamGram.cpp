@@ -31,22 +31,25 @@ std::optional<double> storedGrams(Oturum &oturum, const QString &model, const QS
 
 } // namespace
 
-double toplamGram(const Siparis &siparis, double yogunluk, const GramBul &gramBul)
+OrderGrams orderGrams(const Siparis &siparis, double yogunluk, const GramBul &gramBul)
 {
-    double total = 0;
+    OrderGrams result;
     for (const SiparisSatiri &row : siparis.satirlar) {
+        double rowGrams = 0;
         for (qsizetype i = 0; i < row.adetler.size(); ++i) {
             if (row.adetler[i] == 0)
                 continue;
             const std::optional<double> grams = gramBul(row.model, siparis.tipler[i].KisaAD);
             if (grams)
-                total += roundDecimal(*grams * yogunluk * row.adetler[i], 2);
+                rowGrams += roundDecimal(*grams * yogunluk * row.adetler[i], 2);
         }
+        result.rows.append(rowGrams);
+        result.total += rowGrams;
     }
-    return total;
+    return result;
 }
 
-double toplamGram(Oturum &oturum, const Siparis &siparis)
+OrderGrams orderGrams(Oturum &oturum, const Siparis &siparis)
 {
     std::map<std::pair<QString, QString>, std::optional<double>> known;
     const auto gramBul = [&](const QString &model, const QString &KisaAD) {
@@ -55,5 +58,5 @@ double toplamGram(Oturum &oturum, const Siparis &siparis)
             place->second = storedGrams(oturum, model, KisaAD);
         return place->second;
     };
-    return toplamGram(siparis, YogunlukBul(*oturum.Veritabani, siparis.Ayar), gramBul);
+    return orderGrams(siparis, YogunlukBul(*oturum.Veritabani, siparis.Ayar), gramBul);
 }

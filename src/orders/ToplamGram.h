@@ -11,9 +11,16 @@ struct Oturum;
 /// nothing when the model does not have that type.
 using GramBul = std::function<std::optional<double>(const QString &model, const QString &KisaAD)>;
 
-/// The order's gold: for each quantity grams x density x quantity, rounded to
-/// 2 decimals and then added up.
-double toplamGram(const Siparis &siparis, double yogunluk, const GramBul &gramBul);
+/// The gold of an order, in grams.
+struct OrderGrams
+{
+    double total = 0;
+    QList<double> rows; ///< of each row; they add up to the total
+};
+
+/// For each quantity grams x density x quantity, rounded to 2 decimals and then
+/// added up.
+OrderGrams orderGrams(const Siparis &siparis, double yogunluk, const GramBul &gramBul);
 
 /// The same with density and grams from the database; 0 for an unknown karat.
-double toplamGram(Oturum &oturum, const Siparis &siparis);
+OrderGrams orderGrams(Oturum &oturum, const Siparis &siparis);

@@ -1,79 +1,19 @@
 #include "SiparisFisi.h"
-#include "FisSatirlari.h"
 #include "Oturum.h"
 #include "PdfReader.h"
 #include "SampleCompany.h"
 #include "SiparisStore.h"
+#include "SlipLines.h"
+#include "SlipReading.h"
 #include "TestRegistry.h"
 #include "ToplamGram.h"
 
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
+using namespace SlipReading;
 
 namespace {
-
-QList<UrunTipi> types(const QStringList &names)
-{
-    QList<UrunTipi> result;
-    for (const QString &name : names)
-        result.append({qint32(result.size() + 1), name, name});
-    return result;
-}
-
-SiparisSatiri row(const QString &model, const QString &colour, const QList<qint32> &quantities,
-                  const QString &note = {})
-{
-    SiparisSatiri result;
-    result.model = model;
-    result.renk = colour;
-    result.adetler = quantities;
-    result.aciklama = note;
-    return result;
-}
-
-Siparis order()
-{
-    Siparis result;
-    result.Sipnum = 7;
-    result.SipTrh = QDate(2012, 3, 1);
-    result.TesTrh = QDate(2012, 3, 15);
-    result.Firkod = 10;
-    result.FirAdi = u"Işık Kuyumculuk"_s;
-    result.KisaAD = u"IŞIK"_s;
-    result.Ayar = 585;
-    result.Patent = u"TR585"_s;
-    result.Aciklama = u"Acele"_s;
-    result.tipler = types({u"KLY"_s, u"YZK"_s, u"KPE"_s});
-    return result;
-}
-
-Siparis orderOf(const QList<SiparisSatiri> &rows)
-{
-    Siparis result = order();
-    result.satirlar = rows;
-    return result;
-}
-
-QList<PageText> texts(const PrintPage &page)
-{
-    QList<PageText> result;
-    for (const PageItem &item : page.items) {
-        if (const PageText *text = std::get_if<PageText>(&item))
-            result.append(*text);
-    }
-    return result;
-}
-
-/// What stands at a place of a page; nothing where no text does.
-QString at(const PrintPage &page, Twips x, Twips y)
-{
-    for (const PageText &text : texts(page)) {
-        if (text.at == PagePoint{x, y})
-            return text.text;
-    }
-    return {};
-}
 
 /// The texts of the list, in their order.
 QStringList listLines(const PrintPage &page)
@@ -84,27 +24,6 @@ QStringList listLines(const PrintPage &page)
             lines.append(line);
     }
     return lines;
-}
-
-/// No two texts share any paper, and none leaves it.
-bool nothingOverlaps(const PrintPage &page)
-{
-    QList<QRectF> boxes;
-    for (const PageText &text : texts(page)) {
-        if (text.text.trimmed().isEmpty())
-            continue;
-        const double size = Twips::fromPoints(text.font.points).count();
-        const QRectF box(text.at.x.count(), text.at.y.count(), text.text.size() * size * 0.6,
-                         size * 1.13);
-        if (!QRectF(300, 240, 11300, 16200).contains(box))
-            return false;
-        for (const QRectF &other : boxes) {
-            if (box.intersects(other))
-                return false;
-        }
-        boxes.append(box);
-    }
-    return true;
 }
 
 } // namespace
@@ -128,7 +47,7 @@ private Q_SLOTS:
         QCOMPARE(at(page, 5400_tw, 16100_tw), u"Sayfa 1"_s);
 
         QMap<QString, PageText> byText;
-        for (const PageText &text : texts(page))
+        for (const PageText &text : items<PageText>(page))
             byText.insert(text.text, text);
         QCOMPARE(byText[u"SİPARİŞ LİSTESİ"_s].font, (PageFont{u"Courier New Tur"_s, 12, true}));
         QCOMPARE(byText[u"DAMGA : TR585"_s].font, (PageFont{u"Courier New Tur"_s, 8, true}));
@@ -138,7 +57,7 @@ private Q_SLOTS:
         const PageText karat = byText[u"AYAR  : 585"_s];
         QCOMPARE(karat.at.x, 8000_tw);
         QCOMPARE(byText[u"MÜŞTERİ        : IŞIK        Toplam GRAM   : 169.98"_s].at.y, karat.at.y);
-        QVERIFY(nothingOverlaps(page));
+        QCOMPARE(layoutFault(page), QString());
     }
 
     void customerIsNamedAsChosen_data()
@@ -153,9 +72,9 @@ private Q_SLOTS:
     void customerIsNamedAsChosen()
     {
         QFETCH(MusteriKimligi, kimlik);
-        const PrintPage page = siparisFisi(order(), kimlik, 0).pages().first();
+        const PrintPage page = siparisFisi(orderOf({}), kimlik, 0).pages().first();
         QStringList lines;
-        for (const PageText &text : texts(page))
+        for (const PageText &text : items<PageText>(page))
             lines.append(text.text);
         QTEST(lines.filter(u"MÜŞTERİ"_s).value(0), "line");
     }
@@ -170,7 +89,7 @@ private Q_SLOTS:
         PrintDocument slip = siparisFisi(orderOf(rows), MusteriKimligi::Kisa, 0);
         QCOMPARE(slip.pages().size(), 1);
         QVERIFY(at(slip.pages()[0], 550_tw, Twips(2650 + 43 * 300)).startsWith(u"M44 "_s));
-        QVERIFY(nothingOverlaps(slip.pages()[0]));
+        QCOMPARE(layoutFault(slip.pages()[0]), QString());
 
         rows.append(row(u"M45"_s, u"SR"_s, {1, 0, 0}));
         slip = siparisFisi(orderOf(rows), MusteriKimligi::Kisa, 0);
@@ -185,11 +104,10 @@ private Q_SLOTS:
     {
         // 40 characters before the note: 20 of it make a line of 60.
         const QString fits = u"yirmi karakterlik ab"_s;
-        const QStringList one = FisSatirlari::rowLines(row(u"A"_s, u"SR"_s, {1, 2, 3}, fits));
+        const QStringList one = SlipLines::rowLines(row(u"A"_s, u"SR"_s, {1, 2, 3}, fits));
         QCOMPARE(one.size(), 1);
         QCOMPARE(one[0].size(), 60);
-        const QStringList two =
-            FisSatirlari::rowLines(row(u"A"_s, u"SR"_s, {1, 2, 3}, fits + u"c"_s));
+        const QStringList two = SlipLines::rowLines(row(u"A"_s, u"SR"_s, {1, 2, 3}, fits + u"c"_s));
         QCOMPARE(two, (QStringList{u"A                  SR      1    2    3  yirmi karakterlik"_s,
                                    QString(49, u' ') + u"abc"_s}));
 
@@ -219,7 +137,7 @@ private Q_SLOTS:
         const PrintDocument slip = siparisFisi(siparis, MusteriKimligi::Kisa, 0);
         const PrintPage &page = slip.pages().first();
         QString whole;
-        for (const PageText &text : texts(page)) {
+        for (const PageText &text : items<PageText>(page)) {
             if (text.at.y == 650_tw || text.at.y == 850_tw) {
                 QVERIFY(text.text.endsWith(u'-'));
                 whole += text.text.chopped(1) + u' ';
@@ -228,12 +146,12 @@ private Q_SLOTS:
         QVERIFY(whole.startsWith(u"AÇIKLAMA       : kelime0 "_s));
         whole += listLines(page).mid(2).join(u' ');
         QCOMPARE(whole, u"AÇIKLAMA       :"_s + siparis.Aciklama);
-        QVERIFY(nothingOverlaps(page));
+        QCOMPARE(layoutFault(page), QString());
     }
 
     void whatIsTooWideIsNeitherLostNorCovered()
     {
-        Siparis siparis = order();
+        Siparis siparis = orderOf({});
         QStringList names;
         for (int i = 1; i <= 20; ++i)
             names.append(u"TİP%1"_s.arg(i));
@@ -250,10 +168,10 @@ private Q_SLOTS:
             row(u"ÇOKUZUNMODELKODUOLANBİRÜRÜN-30"_s, u"BEYAZ"_s, quantities, QString(100, u'x'))};
         const PrintDocument slip = siparisFisi(siparis, MusteriKimligi::Ad, 12345678.9);
         const PrintPage &page = slip.pages().first();
-        QVERIFY(nothingOverlaps(page));
+        QCOMPARE(layoutFault(page), QString());
 
         QString all;
-        for (const PageText &text : texts(page))
+        for (const PageText &text : items<PageText>(page))
             all += text.text + u'\n';
         for (const QString &piece : names + QStringList{u"123456"_s, u"54321"_s, u"A.Ş."_s,
                                                         u"12345678.90"_s, u"HARFLİK!"_s})
@@ -275,8 +193,8 @@ private Q_SLOTS:
                                         : std::optional(0.1);
         };
         // 13.075 and 3.9225
-        QCOMPARE(toplamGram(siparis, 13.075, grams), 13.08 + 3.92);
-        QCOMPARE(toplamGram(siparis, 0, grams), 0.0);
+        QCOMPARE(orderGrams(siparis, 13.075, grams).total, 13.08 + 3.92);
+        QCOMPARE(orderGrams(siparis, 0, grams).total, 0.0);
     }
 
     void gramsComeFromTheDatabase()
@@ -285,11 +203,11 @@ private Q_SLOTS:
         Oturum oturum;
         oturum.Veritabani = makeSampleCompany(folder.filePath(u"ornek.kuyum"_s));
         Siparis siparis = SiparisStore(oturum).SiparisBul(1).value();
-        QCOMPARE(toplamGram(oturum, siparis), 78.45 + 65.38 + 26.15);
+        QCOMPARE(orderGrams(oturum, siparis).total, 78.45 + 65.38 + 26.15);
         QCOMPARE(oturum.SonSQL, u"Select * From Model, Uruntipi Where M_uruntip = TipID and "
                                 "Model = 'İnci-1' and KisaAD = 'KPE'"_s);
         siparis.Ayar = 333;
-        QCOMPARE(toplamGram(oturum, siparis), 0.0);
+        QCOMPARE(orderGrams(oturum, siparis).total, 0.0);
     }
 
     void theCommandWritesThePdf()
@@ -311,6 +229,35 @@ private Q_SLOTS:
         QVERIFY(!pdfWord(pdf, u"Işık"_s).text.isEmpty());
         const PdfWord model = pdfWord(pdf, u"A75"_s);
         QCOMPARE(qRound(model.x), 550);
+        QCOMPARE(qRound(model.y), 2650);
+    }
+
+    void theCommandWritesPictures()
+    {
+        QTemporaryDir folder;
+        const QString database = folder.filePath(u"ornek.kuyum"_s);
+        makeSampleCompany(database).reset();
+        const QString pdf = folder.filePath(u"fiş.pdf"_s);
+        const QStringList words{u"fis"_s, database, u"1"_s, u"--pdf"_s, pdf, u"--resimli"_s};
+        QCOMPARE(run(words + QStringList{u"8"_s}).exitCode, 2);
+        QCOMPARE(run(words + QStringList{u"12a"_s}).exitCode, 2);
+        const QString missing = folder.filePath(u"yok"_s);
+        QCOMPARE(run(words + QStringList{u"7"_s, u"--resim"_s, missing}),
+                 (Outcome{1, u"Resim klasörü bulunamadı: "_s + missing}));
+        QVERIFY(!QFile::exists(pdf));
+
+        QCOMPARE(run(words + QStringList{u"15"_s}), (Outcome{0, {}}));
+        QCOMPARE(pdfImages(pdf).size(), 0);
+        QVERIFY(!pdfWord(pdf, u"A75"_s).text.isEmpty());
+
+        QImage image(40, 30, QImage::Format_RGB32);
+        image.fill(Qt::darkYellow);
+        QVERIFY(image.save(folder.filePath(u"A75.jpg"_s)));
+        QCOMPARE(run(words + QStringList{u"12"_s, u"--resim"_s, folder.path()}), (Outcome{0, {}}));
+        QCOMPARE(pdfImages(pdf).size(), 1);
+        QVERIFY(!pdfWord(pdf, u"RESIM/MODEL"_s).text.isEmpty());
+        const PdfWord model = pdfWord(pdf, u"A75"_s);
+        QCOMPARE(qRound(model.x), 550 + 16 * 96);
         QCOMPARE(qRound(model.y), 2650);
     }
 

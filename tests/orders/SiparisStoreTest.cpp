@@ -263,8 +263,8 @@ void SiparisStoreTest::findsModels()
     QVERIFY(lookups.model(u"a75"_s)->KisaAD.isEmpty());
     QVERIFY(!lookups.model(u"O'Hara"_s));
     QCOMPARE(lookups.typesOfModel(u"A75"_s), QStringList({u"KLY"_s, u"YZK"_s}));
-    QCOMPARE(lookups.UrGram(u"boş"_s), 3.5F);
-    QCOMPARE(lookups.UrGram(u"yok"_s), 0.0F);
+    QCOMPARE(lookups.UrGram(u"boş"_s), 3.5);
+    QCOMPARE(lookups.UrGram(u"yok"_s), 0.0);
 
     // Codes that differ only in letter case: the one typed exactly so.
     Recordset models = company.oturum.Veritabani->table(u"Model"_s);

@@ -17,6 +17,12 @@ QByteArray output(const QString &program, const QStringList &arguments)
     return process.readAllStandardOutput();
 }
 
+/// What stands below a table's heading and the rule under it.
+QStringList tableRows(const QByteArray &table)
+{
+    return QString::fromUtf8(table).split(u'\n', Qt::SkipEmptyParts).mid(2);
+}
+
 } // namespace
 
 QList<PdfWord> pdfWords(const QString &path)
@@ -50,5 +56,10 @@ PdfWord pdfWord(const QString &path, const QString &text)
 
 QStringList pdfFonts(const QString &path)
 {
-    return QString::fromUtf8(output(u"pdffonts"_s, {path})).split(u'\n', Qt::SkipEmptyParts).mid(2);
+    return tableRows(output(u"pdffonts"_s, {path}));
+}
+
+QStringList pdfImages(const QString &path)
+{
+    return tableRows(output(u"pdfimages"_s, {u"-list"_s, path}));
 }

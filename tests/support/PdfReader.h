@@ -18,3 +18,5 @@ QList<PdfWord> pdfWords(const QString &path);
 PdfWord pdfWord(const QString &path, const QString &text);
 /// The fonts as pdffonts lists them, one line each.
 QStringList pdfFonts(const QString &path);
+/// The pictures as pdfimages lists them, one line for each place on a page.
+QStringList pdfImages(const QString &path);

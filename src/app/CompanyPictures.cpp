@@ -1,0 +1,30 @@
+#include "CompanyPictures.h"
+
+#include "LegacyPath.h"
+#include "ReadableDatabase.h"
+#include "RegistryPaths.h"
+#include "RegistryStore.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+QString pictureFolderOf(const QString &database)
+{
+    const QFileInfo wanted(database);
+    for (const QString &name : {u"sirket.kuyum"_s, u"sirket.mdb"_s}) {
+        const QString registry = wanted.absoluteDir().filePath(name);
+        if (!QFileInfo::exists(registry))
+            continue;
+        const ReadableDatabase source = openForReading(registry);
+        const RegistryPaths paths(registry);
+        for (const Sirket &sirket : RegistryStore(*source).companies()) {
+            for (const QString &path : {sirket.DataYolu, takenOverPath(sirket.DataYolu)}) {
+                if (QFileInfo(paths.resolve(path)) == wanted)
+                    return paths.resolve(sirket.ResimYolu);
+            }
+        }
+    }
+    return {};
+}

@@ -1,0 +1,8 @@
+#pragma once
+
+#include <QString>
+
+/// The picture folder of the company that a database belongs to, where a
+/// registry that knows it lies beside it, as in the programs' own folder; empty
+/// where none does. Throws DatabaseError when the registry cannot be read.
+QString pictureFolderOf(const QString &database);
