@@ -1,5 +1,6 @@
 #include "MenuTable.h"
 
+#include "Giris_Kur.h"
 #include "Giris_Siparis.h"
 #include "ScreenServices.h"
 #include "Tanim_Ayar.h"
@@ -33,8 +34,12 @@ ScreenFactory rememberingScreen(ScreenServices &services)
 MenuScreens menuTable(ScreenServices &services)
 {
     return {
-        {0, screen<Tanim_Tas>(services)},   {2, screen<Tanim_Uruntipi>(services)},
-        {4, screen<Tanim_Firma>(services)}, {7, rememberingScreen<Giris_Siparis>(services)},
-        {8, screen<Tanim_Ayar>(services)},  {9, screen<Tanim_Renk>(services)},
+        {0, screen<Tanim_Tas>(services)},
+        {2, screen<Tanim_Uruntipi>(services)},
+        {4, screen<Tanim_Firma>(services)},
+        {5, rememberingScreen<Giris_Kur>(services)},
+        {7, rememberingScreen<Giris_Siparis>(services)},
+        {8, screen<Tanim_Ayar>(services)},
+        {9, screen<Tanim_Renk>(services)},
     };
 }

@@ -102,6 +102,21 @@ bool CellEditors::isChanged() const
            (m_kind != Kind::Colour || cmbTas->currentIndex() >= 0);
 }
 
+CellEditors::Entry CellEditors::entry() const
+{
+    return {m_cell, txtTas->text(), cmbTas->currentIndex()};
+}
+
+void CellEditors::restore(const Entry &entry)
+{
+    if (entry.cell != m_cell) {
+        close();
+        return;
+    }
+    txtTas->setText(entry.text);
+    cmbTas->setCurrentIndex(entry.colour);
+}
+
 void CellEditors::selectAll()
 {
     txtTas->setFocus();
@@ -114,6 +129,11 @@ bool CellEditors::types(const QKeyEvent *event)
     // Both together are AltGr, which types characters.
     const bool command = held.testFlag(Qt::ControlModifier) != held.testFlag(Qt::AltModifier);
     return !command && !event->text().isEmpty() && event->text().front().isPrint();
+}
+
+bool CellEditors::isEnter(const QKeyEvent *event)
+{
+    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
 }
 
 bool CellEditors::typeColour(const QKeyEvent *event)

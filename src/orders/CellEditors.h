@@ -17,6 +17,14 @@ class CellEditors : public QObject
 public:
     enum class Kind { Text, Quantity, Colour };
 
+    /// What stands in the open editor; no cell when none is open.
+    struct Entry
+    {
+        QPersistentModelIndex cell;
+        QString text;
+        int colour = -1; ///< in the list of colours
+    };
+
     explicit CellEditors(QTableView *grid);
 
     void setColours(const QStringList &colours);
@@ -35,6 +43,9 @@ public:
     /// Whether the editor holds anything but the cell's text. A colour list
     /// without a choice does not.
     bool isChanged() const;
+    Entry entry() const;
+    /// Puts back what stood in the editor, or closes it where none was open.
+    void restore(const Entry &entry);
     void selectAll();
     /// Chooses the colour that begins with what was typed so far; false for a
     /// key that types nothing.
@@ -42,6 +53,7 @@ public:
 
     /// Whether the key types a character.
     static bool types(const QKeyEvent *event);
+    static bool isEnter(const QKeyEvent *event);
 
 Q_SIGNALS:
     void edited(const QString &text);

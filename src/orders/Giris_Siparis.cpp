@@ -9,7 +9,6 @@
 #include "Theme.h"
 #include "ui_Giris_Siparis.h"
 
-#include <QButtonGroup>
 #include <QKeyEvent>
 #include <QScreen>
 
@@ -65,9 +64,6 @@ void Giris_Siparis::fillChoices()
     m_ui->TesTrh->setLocale(turkish);
     m_ui->Rapor->setColours(m_lookups.colours());
     m_model->setTypes(m_store.productTypes());
-    auto *identity = new QButtonGroup(this);
-    for (QCheckBox *box : {m_ui->Check_Kisaad, m_ui->Check_Kod, m_ui->Check_AD})
-        identity->addButton(box);
 }
 
 /// No box takes more than its field does, so that a save never refuses a text.
@@ -202,7 +198,7 @@ void Giris_Siparis::TusKapa()
     m_ui->TesTrh->setDate(m_context.oturum.CalismaTarihi);
     Gridbosalt();
     m_ui->Resim->clear();
-    m_modelEntry->forgetUnknownLabels();
+    m_modelEntry->forgetNotFound();
     for (QLabel *line : {m_ui->warningLine, m_ui->keptLinesNote}) {
         line->clear();
         line->hide();

@@ -113,9 +113,7 @@ void Giris_Siparis::saveAsNew()
     const std::optional<QString> answer =
         m_context.messages.input(this, u"SİPARİŞ TARİHİ"_s, u"SİPARİŞ TARİH BİLGİSİ"_s,
                                  formatDate(m_context.oturum.CalismaTarihi));
-    if (!answer)
-        return;
-    const QDate date = parseDate(*answer);
+    const QDate date = parseDate(answer.value_or(QString()));
     if (!date.isValid()) {
         m_context.messages.say(this, u"HATALI TARIH BILGISI GIRILIYOR!"_s, MessageIcon::Exclamation,
                                u"HATA"_s);

@@ -12,24 +12,25 @@ using namespace Qt::StringLiterals;
 ModelEntry::ModelEntry(const ScreenContext &context, SiparisGrid *grid, SiparisModel *model)
     : QObject(grid), m_context(context), m_lookups(context.oturum), m_grid(grid), m_model(model)
 {
-    grid->setModelEntry([this](const QString &text) { return enter(text); });
+    grid->setModelEntry(
+        [this](const QString &text, ModelSource source) { return enter(text, source); });
 }
 
 void ModelEntry::setQuickEntry(bool on)
 {
     m_quickEntry = on;
-    m_unknownLabels.clear();
+    m_notFound.clear();
     m_grid->setQuickEntry(on);
 }
 
-ModelOutcome ModelEntry::enter(const QString &text)
+ModelOutcome ModelEntry::enter(const QString &text, ModelSource source)
 {
     ModelOutcome result = ModelOutcome::Refused;
-    guarded(m_context.messages, m_grid->window(), [&] { result = take(text); });
+    guarded(m_context.messages, m_grid->window(), [&] { result = take(text, source); });
     return result;
 }
 
-ModelOutcome ModelEntry::take(const QString &text)
+ModelOutcome ModelEntry::take(const QString &text, ModelSource source)
 {
     const int row = m_grid->currentIndex().row();
     warn({});
@@ -37,9 +38,16 @@ ModelOutcome ModelEntry::take(const QString &text)
     if (!text.isEmpty())
         found = m_lookups.model(text);
     if (!found && m_quickEntry && readLabel(text)) {
-        m_unknownLabels.append(text);
+        m_notFound.append(text);
         warn(u"ETİKET BULUNAMADI"_s);
         return ModelOutcome::Refused;
+    }
+    if (!found && source == ModelSource::Left) {
+        // It stays in its row, where it can be corrected; a save refuses it.
+        m_model->setData(m_model->index(row, SiparisModel::modelColumn), text);
+        m_notFound.append(text);
+        warn(u"MODEL BULUNAMADI"_s);
+        return ModelOutcome::Taken;
     }
     if (!found)
         found = pickFromList(text);
@@ -92,8 +100,8 @@ void ModelEntry::warn(const QString &text)
     QStringList lines;
     if (!text.isEmpty())
         lines.append(text);
-    // A lost scan must still be seen after the scans that follow it.
-    if (!m_unknownLabels.isEmpty())
-        lines.append(u"Bulunamayan etiketler: "_s + m_unknownLabels.join(u", "_s));
+    // What was not found must still be seen after the scans that follow it.
+    if (!m_notFound.isEmpty())
+        lines.append(u"Bulunamayanlar: "_s + m_notFound.join(u", "_s));
     Q_EMIT warning(lines.join(u'\n'));
 }

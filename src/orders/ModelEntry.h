@@ -16,12 +16,12 @@ class ModelEntry : public QObject
 public:
     ModelEntry(const ScreenContext &context, SiparisGrid *grid, SiparisModel *model);
 
-    ModelOutcome enter(const QString &text);
+    ModelOutcome enter(const QString &text, ModelSource source);
 
     void setQuickEntry(bool on);
     /// The colour that new rows get by themselves; empty for none.
     void setFixedColour(const QString &renk) { m_fixedColour = renk; }
-    void forgetUnknownLabels() { m_unknownLabels.clear(); }
+    void forgetNotFound() { m_notFound.clear(); }
 
 Q_SIGNALS:
     /// For the screen's own line; an empty text clears it.
@@ -29,7 +29,7 @@ Q_SIGNALS:
     void modelTaken(const QString &model);
 
 private:
-    ModelOutcome take(const QString &text);
+    ModelOutcome take(const QString &text, ModelSource source);
     std::optional<FoundModel> pickFromList(const QString &filter) const;
     void putIntoRow(int row, const FoundModel &found);
     void GridKontrol(int row);
@@ -40,6 +40,6 @@ private:
     SiparisGrid *m_grid;
     SiparisModel *m_model;
     QString m_fixedColour;
-    QStringList m_unknownLabels; ///< scanned in quick entry and not found
+    QStringList m_notFound; ///< labels and models that scans went past
     bool m_quickEntry = false;
 };

@@ -11,5 +11,7 @@ struct ProductLabel
     qint32 Model_ID = 0;
 };
 
+constexpr int labelLength = 13;
+
 /// Reads a scanned label; nothing for a text that is none.
 std::optional<ProductLabel> readLabel(QStringView text);

@@ -11,15 +11,7 @@
 
 namespace {
 
-constexpr int labelLength = 13;
 constexpr int quantityDigits = 9; // what a whole number field always holds
-/// Within this time after a label an Enter is the scanner's, not the user's.
-constexpr qint64 scannerEnterMs = 300;
-
-bool isEnter(const QKeyEvent *event)
-{
-    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-}
 
 } // namespace
 
@@ -152,12 +144,12 @@ bool SiparisGrid::finishEdit()
     return true;
 }
 
-bool SiparisGrid::takeModel(const QString &text)
+bool SiparisGrid::takeModel(const QString &text, ModelSource source)
 {
     m_taking = true;
     // The editor's row is the current one, wherever the mouse was pressed.
     setCurrentIndex(m_editors->cell());
-    m_outcome = m_take(text);
+    m_outcome = m_take(text, source);
     m_taking = false;
     if (m_outcome == ModelOutcome::Refused) {
         m_editors->selectAll();
@@ -191,9 +183,11 @@ bool SiparisGrid::startsEditor(const QKeyEvent *event) const
 
 void SiparisGrid::keyPressEvent(QKeyEvent *event)
 {
+    if (takeScan(event))
+        return;
     // An editor that was left with a text not yet taken is finished first.
     const QModelIndex cell = currentIndex();
-    if (isEnter(event) || event->key() == Qt::Key_F2) {
+    if (CellEditors::isEnter(event) || event->key() == Qt::Key_F2) {
         if (!isScannerEnter(event) && finishEdit())
             startEditor(cell);
     } else if (event->key() == Qt::Key_Insert) {
@@ -228,11 +222,14 @@ bool SiparisGrid::eventFilter(QObject *watched, QEvent *event)
 
 bool SiparisGrid::editorKey(QKeyEvent *event)
 {
+    if (takeScan(event))
+        return true;
     const QModelIndex cell = m_editors->cell();
     const bool colour = cell.column() == SiparisModel::colourColumn;
-    if (isEnter(event) || event->key() == Qt::Key_Tab) {
+    if (CellEditors::isEnter(event) || event->key() == Qt::Key_Tab) {
         // Enter without a code asks for the list of models.
-        const bool list = isEnter(event) && cell.column() == SiparisModel::modelColumn &&
+        const bool list = CellEditors::isEnter(event) &&
+                          cell.column() == SiparisModel::modelColumn &&
                           m_editors->text().trimmed().isEmpty();
         if (!isScannerEnter(event) && (list ? takeModel({}) : finishEdit()))
             goOn(cell);
@@ -258,33 +255,6 @@ void SiparisGrid::editorLeft()
     const bool model = m_editors->cell().column() == SiparisModel::modelColumn;
     if (!m_taking && !(model && m_editors->isChanged()))
         finishEdit();
-}
-
-void SiparisGrid::labelTyped(const QString &text)
-{
-    if (!m_quickEntry || m_editors->cell().column() != SiparisModel::modelColumn ||
-        !readLabel(text))
-        return;
-    // A scan adds a piece; it never takes the place of a row that is there.
-    if (!m_model->rowAt(m_editors->cell().row()).model.isEmpty()) {
-        m_editors->close();
-        goToEmptyRow();
-        startEditor(currentIndex());
-    }
-    const QModelIndex cell = m_editors->cell();
-    if (takeModel(text))
-        goOn(cell);
-    m_sinceLabel.start();
-}
-
-/// A scanner that sends Enter behind the label must not start anything with it.
-bool SiparisGrid::isScannerEnter(const QKeyEvent *event)
-{
-    if (!m_sinceLabel.isValid())
-        return false;
-    const bool its = isEnter(event) && m_sinceLabel.elapsed() < scannerEnterMs;
-    m_sinceLabel.invalidate();
-    return its;
 }
 
 void SiparisGrid::goOn(const QModelIndex &from)

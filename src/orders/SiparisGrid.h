@@ -1,10 +1,11 @@
 #pragma once
 
+#include "LabelScan.h"
+
 #include <functional>
-#include <QElapsedTimer>
+#include <optional>
 #include <QTableView>
 
-class CellEditors;
 class SiparisModel;
 
 /// What became of a text entered as a model.
@@ -12,6 +13,12 @@ enum class ModelOutcome {
     Refused, ///< not taken; the editor stays open with it
     Taken,   ///< taken: the row goes on to its colour and quantities
     Counted  ///< a label that counted a piece: on to the next row's model
+};
+
+/// How a text came to be entered as a model.
+enum class ModelSource {
+    Typed, ///< the user goes on with it
+    Left   ///< a scan broke in on it: nothing may stop that
 };
 
 /// The order's grid. Enter goes on from cell to cell, typing on a cell starts
@@ -28,11 +35,10 @@ public:
     /// How many characters the fields of model and note take; 0 is no limit.
     void setLimits(int modelCharacters, int noteCharacters);
     /// Who takes a text that was entered as the current row's model.
-    void setModelEntry(std::function<ModelOutcome(const QString &)> take)
-    {
-        m_take = std::move(take);
-    }
-    /// Labels are taken as soon as they are complete, without Enter.
+    using ModelTaker = std::function<ModelOutcome(const QString &, ModelSource)>;
+    void setModelEntry(ModelTaker take) { m_take = std::move(take); }
+    /// Labels are taken as soon as they are complete, without Enter, and
+    /// scanned ones wherever the cursor stands.
     void setQuickEntry(bool on) { m_quickEntry = on; }
 
     void goTo(int row, int column);
@@ -63,19 +69,24 @@ private:
     bool startsEditor(const QKeyEvent *event) const;
     bool editorKey(QKeyEvent *event);
     void editorLeft();
+    bool takeScan(const QKeyEvent *event);
+    void leaveEntry();
     void labelTyped(const QString &text);
-    bool takeModel(const QString &text);
+    void takeLabel(const QString &text);
+    bool takeModel(const QString &text, ModelSource source = ModelSource::Typed);
     bool isScannerEnter(const QKeyEvent *event);
     void goOn(const QModelIndex &from);
     void goToNextRow(int row);
 
     SiparisModel *m_model = nullptr;
     CellEditors *m_editors;
-    std::function<ModelOutcome(const QString &)> m_take;
+    ModelTaker m_take;
+    LabelScan m_scan;
+    quint64 m_keyTime = 0; ///< of the last key, by the keyboard's clock
     ModelOutcome m_outcome = ModelOutcome::Taken;
     int m_modelCharacters = 0;
     int m_noteCharacters = 0;
     bool m_quickEntry = false;
     bool m_taking = false;
-    QElapsedTimer m_sinceLabel; ///< runs from a label that was taken without Enter
+    std::optional<quint64> m_labelTime; ///< of the key before this one, when it ended a label
 };
