@@ -93,6 +93,18 @@ struct DefinitionFixture
         key(letter, Qt::AltModifier);
         QTRY_COMPARE(clicks.count(), 1);
     }
+    /// Presses the delete button and answers its question.
+    void remove(const QString &question, MessageAnswer defaultAnswer, MessageAnswer answer,
+                const QString &title = {})
+    {
+        messages.expect({.text = question,
+                         .answer = answer,
+                         .title = title,
+                         .icon = MessageIcon::Exclamation,
+                         .defaultAnswer = defaultAnswer});
+        press(Qt::Key_S, QStringLiteral("cmdsil"));
+        messages.verify();
+    }
     void press(const QString &button) const { QTest::mouseClick(control(button), Qt::LeftButton); }
 
     /// The first row's fields as "a|b|c", a null as nothing; "none" without a row.

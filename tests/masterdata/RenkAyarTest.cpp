@@ -67,20 +67,11 @@ private Q_SLOTS:
     void removesAColourAfterAQuestion()
     {
         Colours on;
-        const auto ask = [&on](MessageAnswer answer) {
-            on.enter({u"BY"_s});
-            on.messages.expect({.text = u"BY RENK TANIMI SİLİNECEK ...!"_s,
-                                .answer = answer,
-                                .title = QString(),
-                                .icon = MessageIcon::Exclamation,
-                                .defaultAnswer = MessageAnswer::Yes});
-            on.press(Qt::Key_S, u"cmdsil"_s);
-            on.messages.verify();
-        };
-        ask(MessageAnswer::No);
+        const QString question = u"BY RENK TANIMI SİLİNECEK ...!"_s;
+        on.enter({u"BY"_s});
+        on.remove(question, MessageAnswer::Yes, MessageAnswer::No);
         QCOMPARE(on.colour(u"BY"_s), u"BY|2"_s);
-        on.key(Qt::Key_Escape);
-        ask(MessageAnswer::Yes);
+        on.remove(question, MessageAnswer::Yes, MessageAnswer::Yes);
         QCOMPARE(on.colour(u"BY"_s), u"none"_s);
         QVERIFY(!on.isEditing());
     }
@@ -129,15 +120,10 @@ private Q_SLOTS:
     {
         Karats on;
         on.enter({u"585"_s});
-        on.messages.expect({.text = u"585 TANIMI SİLİNECEK ...!"_s,
-                            .answer = MessageAnswer::No,
-                            .title = QString(),
-                            .icon = MessageIcon::Exclamation,
-                            .defaultAnswer = MessageAnswer::Yes});
-        on.press(Qt::Key_S, u"cmdsil"_s);
+        const QString question = u"585 TANIMI SİLİNECEK ...!"_s;
+        on.remove(question, MessageAnswer::Yes, MessageAnswer::No);
         QCOMPARE(on.karat(585), u"585|13.075"_s);
-        on.messages.expect(u"585 TANIMI SİLİNECEK ...!"_s, MessageAnswer::Yes);
-        on.press(Qt::Key_S, u"cmdsil"_s);
+        on.remove(question, MessageAnswer::Yes, MessageAnswer::Yes);
         QCOMPARE(on.karat(585), u"none"_s);
         QCOMPARE(on.row(u"Select Count(*) as n From SiparisB Where Ayar = 585"_s), u"3"_s);
     }

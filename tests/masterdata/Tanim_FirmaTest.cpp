@@ -110,20 +110,13 @@ private Q_SLOTS:
         on.key(Qt::Key_Escape);
 
         on.oturum.Veritabani->execute(u"DELETE From SiparisB Where Sipfirkod = 20"_s);
-        const auto answer = [&on](MessageAnswer answer) {
-            on.messages.expect({.text = u"O'Hara Gold SİLİNECEK..."_s,
-                                .answer = answer,
-                                .title = u"FİRMA KARTI SİLME"_s,
-                                .icon = MessageIcon::Exclamation,
-                                .defaultAnswer = MessageAnswer::Yes});
-            on.press(Qt::Key_S, u"cmdsil"_s);
-            on.messages.verify();
-        };
+        const QString question = u"O'Hara Gold SİLİNECEK..."_s;
+        const QString title = u"FİRMA KARTI SİLME"_s;
         on.enter({u"20"_s});
-        answer(MessageAnswer::No);
+        on.remove(question, MessageAnswer::Yes, MessageAnswer::No, title);
         QVERIFY(on.isEditing());
         QVERIFY(on.customer(20) != "none"_L1);
-        answer(MessageAnswer::Yes);
+        on.remove(question, MessageAnswer::Yes, MessageAnswer::Yes, title);
         QVERIFY(!on.isEditing());
         QCOMPARE(on.customer(20), u"none"_s);
     }

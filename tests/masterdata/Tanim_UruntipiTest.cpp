@@ -95,15 +95,10 @@ private Q_SLOTS:
     {
         ProductTypes on;
         on.enter({u"3"_s});
-        on.messages.expect({.text = u"3 SİLİNECEK. ONAYLIYORMUSUNUZ.?"_s,
-                            .answer = MessageAnswer::No,
-                            .title = QString(),
-                            .icon = MessageIcon::Exclamation,
-                            .defaultAnswer = MessageAnswer::No});
-        on.press(Qt::Key_S, u"cmdsil"_s);
+        const QString question = u"3 SİLİNECEK. ONAYLIYORMUSUNUZ.?"_s;
+        on.remove(question, MessageAnswer::No, MessageAnswer::No);
         QCOMPARE(on.type(3), u"Küpe|KPE|3|"_s);
-        on.messages.expect(u"3 SİLİNECEK. ONAYLIYORMUSUNUZ.?"_s, MessageAnswer::Yes);
-        on.press(Qt::Key_S, u"cmdsil"_s);
+        on.remove(question, MessageAnswer::No, MessageAnswer::Yes);
         QCOMPARE(on.type(3), u"none"_s);
         QVERIFY(!on.isEditing());
     }
