@@ -11,6 +11,8 @@ void ColumnLines::put(int column, const QString &text)
 
 void ColumnLines::putHighest(int column, const QString &text)
 {
+    if (text.isEmpty())
+        return;
     for (QString &line : m_lines) {
         if (fits(line, column))
             return append(line, column, text);

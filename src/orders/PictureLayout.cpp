@@ -25,13 +25,18 @@ constexpr int typesPerLine = 13;
 constexpr Twips pictureGap = 40_tw;
 constexpr Twips cellGap = 45_tw;
 
-// The columns of the layout with weights. Numbers stand flush right and leave
-// a blank before the next column.
+// The columns of the layout with weights.
 constexpr int piecesColumn = 35;
 constexpr int totalPiecesColumn = 40;
 constexpr int gramsColumn = 45;
 constexpr int totalGramsColumn = 51;
 constexpr int weightsNoteColumn = 58;
+// Where their numbers end, flush right, so that rows of 999 pieces, pieces of
+// 99 grams and rows of 9999 grams leave a blank between them.
+constexpr int piecesEnd = 39;
+constexpr int totalPiecesEnd = 43;
+constexpr int gramsEnd = 49;
+constexpr int totalGramsEnd = 57;
 
 QString gramsText(double value)
 {
@@ -52,9 +57,9 @@ QList<std::pair<QString, QString>> quantities(const SiparisSatiri &row,
 
 void putTotals(ColumnLines &lines, const SiparisSatiri &row, const RowWeights &rowWeights)
 {
-    lines.putBefore(gramsColumn - 1, QString::number(row.totalCount()));
-    lines.putBefore(totalGramsColumn - 1, gramsText(rowWeights.UrGram));
-    lines.putBefore(weightsNoteColumn - 1, gramsText(rowWeights.total));
+    lines.putBefore(totalPiecesEnd, QString::number(row.totalCount()));
+    lines.putBefore(gramsEnd, gramsText(rowWeights.UrGram));
+    lines.putBefore(totalGramsEnd, gramsText(rowWeights.total));
 }
 
 /// A line for each product type, its short name before the colour's column.
@@ -68,18 +73,21 @@ QStringList weightLines(const SiparisSatiri &row, const QList<UrunTipi> &tipler,
     ColumnLines lines;
     for (const QString &piece : wrappedLines(row.model.trimmed(), modelWidth, modelWidth))
         lines.put(columns.model, piece);
-    for (qsizetype i = 0; i < std::max({pieces.size(), note.size(), qsizetype(1)}); ++i) {
+    for (qsizetype i = 0; i < std::max(pieces.size(), qsizetype(1)); ++i) {
         if (i > 0)
             lines.newLine();
         const auto [type, adet] = pieces.value(i);
         lines.put(std::max(columns.model, columns.renk - 1 - int(type.size())), type);
         if (i == 0)
             lines.put(columns.renk, onOneLine(row.renk).trimmed());
-        lines.putBefore(totalPiecesColumn - 1, adet);
+        lines.putBefore(piecesEnd, adet);
         if (i == 0)
             putTotals(lines, row, rowWeights);
-        lines.put(i == 0 ? weightsNoteColumn : columns.noteIndent, note.value(i));
     }
+    // Beside all of that, so that it needs no lines of its own.
+    lines.putHighest(weightsNoteColumn, note.first());
+    for (const QString &piece : note.mid(1))
+        lines.putHighest(columns.noteIndent, piece);
     return lines.lines();
 }
 

@@ -140,8 +140,14 @@ private Q_SLOTS:
         QCOMPARE(at(twelve, 550_tw, 1150_tw),
                  u"RESIM/MODEL                    RNK ADET T.AD GR    T.GR   AÇIKLAMA"_s);
         QCOMPARE(at(twelve, Twips(550 + 16 * 96), 2650_tw),
-                 u"A75        KLY SR     1   13  2.00 339.95 ölçü 14"_s);
+                 u"A75        KLY SR     1  13  2.00  339.95 ölçü 14"_s);
         QCOMPARE(at(twelve, Twips(550 + 27 * 96), 2850_tw), u"KPE       12"_s);
+        // A hundred pieces and more than a kilogram still share the line.
+        QCOMPARE(at(slip(layouts[1], orderOf({row(u"A75"_s, u"SR"_s, {120, 0, 0}, u"x"_s)}))
+                        .pages()
+                        .first(),
+                    Twips(550 + 16 * 96), 2650_tw),
+                 u"A75        KLY SR   120 120  2.00 3138.00 x"_s);
         QVERIFY(allText(slip(layouts[1], orderOf({satir, satir})))
                     .contains(u"IŞIK        Toplam GRAM/AD: 679.90 / 26"_s));
 
@@ -168,7 +174,9 @@ private Q_SLOTS:
                 QList<qint32> quantities(typeCount, 0);
                 quantities.last() = 3;
                 for (int i = 0; i < layout.adet; ++i)
-                    siparis.satirlar.append(row(u"ŞELALE 2362"_s, u"SR"_s, quantities, note));
+                    siparis.satirlar.append(
+                        row(i == 0 ? u"ÇOK UZUN MODEL KODU OLAN ÜR-30"_s : u"ŞELALE 2362"_s,
+                            u"SR"_s, quantities, note));
                 const PrintDocument document = slip(layout, siparis, picture({300, 400}));
                 QCOMPARE(document.pages().size(), 1);
                 QCOMPARE(layoutFault(document), QString());
@@ -286,8 +294,8 @@ private Q_SLOTS:
         const QString all = allText(document);
         QVERIFY(all.contains(u"Toplam GRAM/AD: 169.98 / 6"_s));
         // Three rings of 2 grams and a necklace of 5, with the density of the karat.
-        QVERIFY2(all.contains(u"4  2.00 143.83 ölçü 14"_s), qPrintable(all));
-        QVERIFY2(all.contains(u"2  1.00  26.15"_s), qPrintable(all));
+        QVERIFY2(all.contains(u"4  2.00  143.83 ölçü 14"_s), qPrintable(all));
+        QVERIFY2(all.contains(u"2  1.00   26.15"_s), qPrintable(all));
         // Any other number of cells stands for 12.
         const PrintDocument other =
             orderSlip(fixture.oturum, siparis, {MusteriKimligi::Ad, true, 9}, goOn).value();
