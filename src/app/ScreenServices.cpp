@@ -10,6 +10,7 @@ ScreenServices::ScreenServices(Oturum &oturum, Messages &messages)
       openList(lookupOpener(oturum, messages)),
       settings(u"Kuyum"_s, u"kuyum"_s),
       printers(settings),
-      viewer(printers, messages)
+      viewer(printers, messages),
+      labelPrinter(printers)
 {
 }

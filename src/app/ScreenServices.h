@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LabelPrinter.h"
 #include "Printers.h"
 #include "PrintPreview.h"
 #include "ScreenContext.h"
@@ -21,4 +22,5 @@ struct ScreenServices
     QSettings settings;
     Printers printers;
     PreviewViewer viewer;
+    InstalledLabelPrinter labelPrinter;
 };

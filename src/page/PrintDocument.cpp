@@ -1,14 +1,8 @@
 #include "PrintDocument.h"
 
-#include <QBuffer>
-#include <QDir>
-#include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPdfWriter>
-#include <QSaveFile>
-#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
@@ -36,7 +30,7 @@ const QList<Face> &faces()
 
 /// In twips, and without hinting: a text is then as wide on the screen as on
 /// paper, and its columns meet the lines drawn between them.
-QFont paintedFont(const PageFont &font)
+QFont paintedFont(const PageFont &font, PageInk ink = PageInk::Smooth)
 {
     QFont result(printedFamily(font.family));
     result.setPixelSize(qRound(Twips::fromPoints(font.points).count()));
@@ -44,13 +38,15 @@ QFont paintedFont(const PageFont &font)
     result.setItalic(font.italic);
     result.setHintingPreference(QFont::PreferNoHinting);
     result.setKerning(false);
+    if (ink == PageInk::Dots)
+        result.setStyleStrategy(QFont::NoAntialias);
     return result;
 }
 
 class PagePainter
 {
 public:
-    explicit PagePainter(QPainter &painter) : m_painter(painter) {}
+    PagePainter(QPainter &painter, PageInk ink) : m_painter(painter), m_ink(ink) {}
 
     void operator()(const PageText &text)
     {
@@ -67,8 +63,18 @@ public:
     {
         const QSizeF box(picture.width.count(), picture.height.count());
         const QSizeF size = QSizeF(picture.image.size()).scaled(box, Qt::KeepAspectRatio);
-        m_painter.drawImage(QRectF(QPointF(picture.at.x.count(), picture.at.y.count()), size),
-                            picture.image);
+        const QRectF place(QPointF(picture.at.x.count(), picture.at.y.count()), size);
+        if (m_ink == PageInk::Smooth)
+            m_painter.drawImage(place, picture.image);
+        else
+            dotted(place, picture.image);
+    }
+    void operator()(const PageSymbol &symbol)
+    {
+        m_painter.save();
+        m_painter.translate(symbol.at.x.count(), symbol.at.y.count());
+        paintBars(m_painter, symbol.bars);
+        m_painter.restore();
     }
 
 private:
@@ -78,54 +84,33 @@ private:
         m_painter.setPen(Qt::black);
         if (m_fontSet && font == m_font)
             return;
-        const QFont painted = paintedFont(font);
+        const QFont painted = paintedFont(font, m_ink);
         m_painter.setFont(painted);
         m_ascent = QFontMetricsF(painted).ascent();
         m_font = font;
         m_fontSet = true;
     }
 
+    /// In dots of its own, so that its greys become a pattern of black dots.
+    void dotted(const QRectF &place, const QImage &image)
+    {
+        const QRect dots = m_painter.combinedTransform().mapRect(place).toRect();
+        if (dots.isEmpty())
+            return;
+        const QImage scaled =
+            image.scaled(dots.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        m_painter.save();
+        m_painter.resetTransform();
+        m_painter.drawImage(dots.topLeft(), scaled.convertToFormat(QImage::Format_Mono));
+        m_painter.restore();
+    }
+
     QPainter &m_painter;
+    PageInk m_ink;
     PageFont m_font;
     bool m_fontSet = false;
     double m_ascent = 0;
 };
-
-[[noreturn]] void refusePdf(const QString &path, const QString &reason)
-{
-    throw std::runtime_error(
-        u"PDF dosyası yazılamadı: %1\n%2"_s.arg(QDir::toNativeSeparators(path), reason)
-            .toStdString());
-}
-
-/// In memory: the PDF writer does not tell when its device fails.
-QByteArray paintPdf(const PrintDocument &document)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QPdfWriter writer(&buffer);
-    writer.setResolution(twipsPerInch);
-    writer.setTitle(document.title());
-    writer.setCreator(u"Kuyum"_s);
-    const QSizeF paper(document.width().points(), document.height().points());
-    writer.setPageLayout(QPageLayout(QPageSize(paper, QPageSize::Point, {}, QPageSize::FuzzyMatch),
-                                     QPageLayout::Portrait, QMarginsF(), QPageLayout::Point));
-    QPageLayout layout = writer.pageLayout();
-    layout.setMode(QPageLayout::FullPageMode);
-    writer.setPageLayout(layout);
-
-    QPainter painter(&writer);
-    bool first = true;
-    for (const PrintPage &page : document.pages()) {
-        if (!first)
-            writer.newPage();
-        first = false;
-        paintPage(painter, page, twipsPerInch);
-    }
-    painter.end();
-    return bytes;
-}
 
 } // namespace
 
@@ -166,6 +151,11 @@ void PrintDocument::frame(PagePoint at, Twips width, Twips height)
     line({at.x, bottom}, at);
 }
 
+void PrintDocument::bars(PagePoint at, const PageBars &bars)
+{
+    add(PageSymbol{at, bars});
+}
+
 void PrintDocument::picture(PagePoint at, Twips width, Twips height, const QImage &image)
 {
     add(PagePicture{at, width, height, image});
@@ -191,30 +181,20 @@ QString printedFamily(const QString &family)
     return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
 }
 
-void paintPage(QPainter &painter, const PrintPage &page, double dotsPerInch)
+Twips printedWidth(const PageFont &font, const QString &text)
+{
+    return Twips(QFontMetricsF(paintedFont(font)).horizontalAdvance(text));
+}
+
+void paintPage(QPainter &painter, const PrintPage &page, double dotsPerInch, PageInk ink)
 {
     painter.save();
     painter.scale(dotsPerInch / twipsPerInch, dotsPerInch / twipsPerInch);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing |
-                           QPainter::SmoothPixmapTransform);
-    PagePainter pagePainter(painter);
+                               QPainter::SmoothPixmapTransform,
+                           ink == PageInk::Smooth);
+    PagePainter pagePainter(painter, ink);
     for (const PageItem &item : page.items)
         std::visit(pagePainter, item);
     painter.restore();
-}
-
-void writePdf(const PrintDocument &document, const QString &path)
-{
-    const QFileInfo place(path);
-    if (place.isDir())
-        refusePdf(path, u"Bu bir klasör."_s);
-    if (!place.dir().exists())
-        refusePdf(path, u"Klasör bulunamadı."_s);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly))
-        refusePdf(path, u"Buraya yazılamıyor; dosya korunuyor olabilir."_s);
-    const QByteArray bytes = paintPdf(document);
-    // commit() does not notice when its last block finds no room; flush() does.
-    if (file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
-        refusePdf(path, u"Diske yazılamadı; disk dolu olabilir."_s);
 }

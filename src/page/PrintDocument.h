@@ -1,5 +1,6 @@
 #pragma once
 
+#include "PageBars.h"
 #include "Twips.h"
 
 #include <QImage>
@@ -48,7 +49,13 @@ struct PagePicture
     QImage image;
 };
 
-using PageItem = std::variant<PageText, PageLine, PagePicture>;
+struct PageSymbol
+{
+    PagePoint at;
+    PageBars bars;
+};
+
+using PageItem = std::variant<PageText, PageLine, PagePicture, PageSymbol>;
 
 struct PrintPage
 {
@@ -78,6 +85,8 @@ public:
     /// Fitted into the box with its proportions kept, from the top left.
     void picture(PagePoint at, Twips width, Twips height, const QImage &image);
 
+    void bars(PagePoint at, const PageBars &bars);
+
     const QString &title() const { return m_title; }
     Twips width() const { return m_width; }
     Twips height() const { return m_height; }
@@ -97,9 +106,23 @@ private:
 /// becomes a fixed-pitch face of the same widths that has the Turkish letters.
 QString printedFamily(const QString &family);
 
-/// Paints a page with a painter whose (0,0) is the paper's corner.
-void paintPage(QPainter &painter, const PrintPage &page, double dotsPerInch);
+/// How wide a text is printed.
+Twips printedWidth(const PageFont &font, const QString &text);
 
-/// Writes all pages to a PDF file. Throws std::runtime_error with a Turkish
-/// text when the file cannot be written; what was at the path stays then.
-void writePdf(const PrintDocument &document, const QString &path);
+/// How a page is painted: for the eye, or for a printer of black dots, which
+/// knows no grey.
+enum class PageInk { Smooth, Dots };
+
+/// Paints a page with a painter whose (0,0) is the paper's corner.
+void paintPage(QPainter &painter, const PrintPage &page, double dotsPerInch,
+               PageInk ink = PageInk::Smooth);
+
+/// Writes all pages to a PDF file, on a grid of so many dots to the inch. Throws
+/// std::runtime_error with a Turkish text when the file cannot be written; what
+/// was at the path stays then.
+void writePdf(const PrintDocument &document, const QString &path, int dotsPerInch = 1440);
+
+/// A page as a printer of that resolution sets its dots, black and white.
+QImage pageDots(const PrintDocument &document, const PrintPage &page, int dotsPerInch);
+/// Writes the first page's dots to a PNG file; throws as writePdf() does.
+void writePng(const PrintDocument &document, const QString &path, int dotsPerInch);

@@ -37,14 +37,22 @@ public:
     /// Prints on the current printer. Throws std::runtime_error with a Turkish
     /// text when there is none or it fails.
     void print(const PrintDocument &document) const;
+    /// Prints on the printer of that name, in the printer's own dots, so that
+    /// bar codes come out as they are laid.
+    void printDots(const PrintDocument &document, const QString &name) const;
 
 protected:
     virtual std::unique_ptr<QPrinter> open(const QString &name) const;
 
 private:
+    void send(QPrinter &printer, const PrintDocument &document, const QString &name) const;
+
     QSettings &m_settings;
     QString m_chosen;
 };
+
+/// The resolution in which a printer sets its own dots, of those it offers.
+int ownResolution(const QList<int> &offered);
 
 /// Sets a printer up for a document: its paper, no margins, its title.
 void prepare(QPrinter &printer, const PrintDocument &document);

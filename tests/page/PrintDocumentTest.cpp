@@ -66,6 +66,44 @@ private Q_SLOTS:
         QVERIFY(paper.pixelColor(100, 50).lightness() < 128);
     }
 
+    void barsAreWholeDotsWhereverThePageIsMoved_data()
+    {
+        QTest::addColumn<int>("dotsPerInch");
+        QTest::addColumn<int>("room");
+        QTest::addColumn<int>("dotsPerModule");
+        QTest::newRow("two dots to read") << 203 << 200 << 2;
+        QTest::newRow("no room for two") << 203 << 80 << 1;
+        QTest::newRow("nearest number of dots") << 600 << 80 << 4;
+    }
+    void barsAreWholeDotsWhereverThePageIsMoved()
+    {
+        QFETCH(int, dotsPerInch);
+        QFETCH(int, room);
+        QFETCH(int, dotsPerModule);
+        PrintDocument document(u"Barkod"_s);
+        document.line({0_tw, 0_tw}, {1000_tw, 1000_tw}, 200_tw);
+        document.bars({101_tw, 103_tw}, {u"OXOXXOOX"_s, 10_tw, 200_tw, Twips(room)});
+        for (const double moved : {0.0, 0.3, 0.5, 0.9}) {
+            QImage paper(400, 400, QImage::Format_RGB32);
+            paper.fill(Qt::white);
+            QPainter painter(&paper);
+            painter.translate(moved, moved);
+            paintPage(painter, document.pages().first(), dotsPerInch);
+            painter.end();
+            const int left = qRound(101.0 * dotsPerInch / 1440 + moved);
+            const int row = qRound(150.0 * dotsPerInch / 1440);
+            QString dots;
+            for (int x = left; x < left + 8 * dotsPerModule; ++x) {
+                const QRgb dot = paper.pixel(x, row) & RGB_MASK;
+                dots += dot == 0 ? u'X' : dot == RGB_MASK ? u'O' : u'?';
+            }
+            QString expected;
+            for (const QChar module : u"OXOXXOOX"_s)
+                expected += QString(dotsPerModule, module);
+            QCOMPARE(dots, expected);
+        }
+    }
+
     void aPdfThatCannotBeWrittenIsRefused()
     {
         QTemporaryDir folder;

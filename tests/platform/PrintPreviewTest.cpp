@@ -1,4 +1,5 @@
 #include "PrintPreview.h"
+#include "LabelPrinter.h"
 #include "PdfReader.h"
 #include "Printers.h"
 #include "ScriptedMessages.h"
@@ -169,6 +170,34 @@ private Q_SLOTS:
         QTest::keyClick(&second, Qt::Key_P, Qt::ControlModifier);
         QVERIFY(second.isVisible());
         m_messages->verify();
+    }
+
+    void aLabelGoesToItsPrinterAndTheSlipsStayWithTheirs()
+    {
+        FilePrinters printers(*m_settings, {u"Büro"_s, u"Atölye"_s, u"Zebra"_s}, m_folder->path());
+        printers.YaziciSec(u"Büro"_s);
+        InstalledLabelPrinter labelPrinter(printers);
+        const auto printedOn = [&](const QString &name) {
+            labelPrinter.print(threePages(), name);
+            return QDir(m_folder->path()).entryList({u"*.pdf"_s}, QDir::Files, QDir::Time).value(0);
+        };
+        QCOMPARE(printedOn(u" Zebra "_s), u"Zebra.pdf"_s);
+        QCOMPARE(printedOn({}), u"Atölye.pdf"_s);
+        QFile::remove(m_folder->filePath(u"Atölye.pdf"_s));
+        QCOMPARE(printedOn(u"Zebra TLP2844"_s), u"Atölye.pdf"_s);
+        QCOMPARE(printers.current(), u"Büro"_s);
+
+        const FilePrinters none(*m_settings, {}, m_folder->path());
+        QVERIFY_THROWS_EXCEPTION(std::runtime_error,
+                                 InstalledLabelPrinter(none).print(threePages(), u"Zebra"_s));
+    }
+
+    void aLabelIsPrintedInThePrintersOwnDots()
+    {
+        QCOMPARE(ownResolution({203}), 203);
+        QCOMPARE(ownResolution({72, 96, 300, 600, 1200}), 300);
+        QCOMPARE(ownResolution({72}), 203);
+        QCOMPARE(ownResolution({}), 203);
     }
 
 private:

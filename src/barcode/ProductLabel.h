@@ -13,5 +13,10 @@ struct ProductLabel
 
 constexpr int labelLength = 13;
 
+/// The number that a label's barcode is drawn from: 12 digits, without the
+/// check digit. More than 12 where a type or a record number has more digits
+/// than its place; such a label does not read back.
+QString barcodeNumber(const ProductLabel &label);
+
 /// Reads a scanned label; nothing for a text that is none.
 std::optional<ProductLabel> readLabel(QStringView text);

@@ -1,0 +1,34 @@
+#include "ProductLabel.h"
+
+#include "Numbers.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView prefix = u"16"; ///< of every product's label
+constexpr QStringView typeDigits = u"000";
+constexpr QStringView recordDigits = u"0000000";
+
+} // namespace
+
+QString barcodeNumber(const ProductLabel &label)
+{
+    return prefix.toString() + formatNumber(label.TipID, typeDigits) +
+           formatNumber(label.Model_ID, recordDigits);
+}
+
+std::optional<ProductLabel> readLabel(QStringView text)
+{
+    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
+    if (text.size() != labelLength || !text.startsWith(prefix) ||
+        !std::all_of(text.begin(), text.end(), isDigit))
+        return std::nullopt;
+    const QStringView numbers = text.sliced(prefix.size());
+    return ProductLabel{
+        numbers.first(typeDigits.size()).toInt(),
+        numbers.sliced(typeDigits.size(), recordDigits.size()).toInt(),
+    };
+}
