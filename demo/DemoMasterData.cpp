@@ -260,35 +260,56 @@ void fillUsers(Database &company)
         addRow(rights, {{u"MK_userid", 2}, {u"MK_menuid", item}});
 }
 
+struct DemoLabelField
+{
+    int label;
+    QString text;
+    double points;
+    int left; ///< in half points, as are top and the label types' places
+    int top;
+};
+
+void fillLabelFields(Database &company)
+{
+    const DemoLabelField fields[] = {
+        {1, u"%KOD%"_s, 7, 270, 50},       {1, u"%MIKTAR% gr"_s, 7, 450, 10},
+        {1, u"%AYAR% ayar"_s, 7, 450, 30}, {1, u"%FRM%"_s, 6, 450, 50},
+        {2, u"%KOD%"_s, 8, 300, 10},       {2, u"%AYAR% ayar"_s, 7, 300, 30},
+        {2, u"%MIKTAR% gr"_s, 7, 400, 30}, {2, u"%ALAN1%"_s, 7, 300, 50},
+        {2, u"%TFYT% TL"_s, 8, 450, 50},
+    };
+    Recordset rows = company.table(u"BarkodtipAlanlar"_s);
+    int number = 0;
+    for (const DemoLabelField &field : fields) {
+        addRow(rows, {{u"btipno", field.label},
+                      {u"alanno", ++number},
+                      {u"alanadi", field.text},
+                      {u"Check", true},
+                      {u"FontName", u"Courier New Tur"_s},
+                      {u"boyut", field.points},
+                      {u"Bold", true},
+                      {u"pic_Top", field.top},
+                      {u"pic_Left", field.left}});
+    }
+}
+
 void fillLabelTypes(Database &company)
 {
-    const QStringList names = {u"Küçük Etiket"_s, u"Özel Ürün Etiketi"_s};
-    const QStringList fields = {u"%KOD%"_s,    u"%BKOD%"_s, u"%FRM%"_s,  u"%AYAR%"_s,
-                                u"%MIKTAR%"_s, u"%TFYT%"_s, u"%PFYT%"_s, u"%ALAN1%"_s};
-    Recordset labels = company.table(u"Barkodtip"_s);
-    Recordset labelFields = company.table(u"BarkodtipAlanlar"_s);
-    for (int label = 0; label < names.size(); ++label) {
-        addRow(labels, {{u"BarkodTip_ID", label + 1},
-                        {u"BarkodTip_Ad", names[label]},
-                        {u"BarkodTip_OzelUrun", label == 1},
+    auto addType = [labels = company.table(u"Barkodtip"_s)](int number, const QString &name,
+                                                            int left, bool special) mutable {
+        addRow(labels, {{u"BarkodTip_ID", number},
+                        {u"BarkodTip_Ad", name},
+                        {u"BarkodTip_OzelUrun", special},
                         {u"pBarkod_Top", 10},
-                        {u"pBarkod_Left", 260},
+                        {u"pBarkod_Left", left},
                         {u"BasSatiri", 1},
-                        {u"BasSutunu", label + 1},
-                        {u"pic_Top", 10},
-                        {u"pic_Left", 20}});
-        for (int i = 0; i < fields.size(); ++i) {
-            addRow(labelFields, {{u"btipno", label + 1},
-                                 {u"alanno", i + 1},
-                                 {u"alanadi", fields[i]},
-                                 {u"Check", i < 5},
-                                 {u"FontName", u"Courier New Tur"_s},
-                                 {u"boyut", i == 0 ? 8 : 7},
-                                 {u"Bold", i != 2},
-                                 {u"pic_Top", 10 + 20 * i},
-                                 {u"pic_Left", 270 + 90 * label}});
-        }
-    }
+                        {u"BasSutunu", 1},
+                        {u"pic_Top", special ? 5 : 0},
+                        {u"pic_Left", special ? 20 : 0}});
+    };
+    addType(1, u"Küçük Etiket"_s, 260, false);
+    addType(2, u"Özel Ürün Etiketi"_s, 130, true);
+    fillLabelFields(company);
     Recordset special = company.table(u"Barkodtipozel"_s);
     addRow(special, {{u"btipno", 2},
                      {u"BarkodKod_Kod", u"ÖZEL-1"_s},

@@ -14,6 +14,14 @@ constexpr Command commands[] = {
      u"kuyum fis VERITABANI SIPARIS --pdf DOSYA [--resimli 7|12|15] [--musteri kisa|ad|kod] "
      "[--resim KLASOR]",
      fisCommand, true},
+    {u"etiket",
+     u"kuyum etiket VERITABANI MODEL URUNTIPI --pdf DOSYA [--dpi N] | --png DOSYA --dpi N "
+     "[--ayar METIN] [--aciklama METIN] [--tip ETIKETTIPI]",
+     etiketCommand, true},
+    {u"barkod",
+     u"kuyum barkod ean13|code39|code128|2of5|codabar METIN --pdf DOSYA [--dpi N] | --png DOSYA "
+     "--dpi N",
+     barkodCommand, true},
     {u"sorgu", u"kuyum sorgu VERITABANI \"SELECT ...\"", sorguCommand},
     {u"demo", u"kuyum demo KLASOR [--olcek N]", demoCommand, true},
 };

@@ -36,6 +36,8 @@ void printLine(const QString &line);
 void printError(const QString &line);
 
 int aktarCommand(const QStringList &arguments);
+int barkodCommand(const QStringList &arguments);
+int etiketCommand(const QStringList &arguments);
 int fisCommand(const QStringList &arguments);
 int sorguCommand(const QStringList &arguments);
 int demoCommand(const QStringList &arguments);

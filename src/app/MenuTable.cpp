@@ -4,6 +4,7 @@
 #include "Giris_Siparis.h"
 #include "ScreenServices.h"
 #include "Tanim_Ayar.h"
+#include "Tanim_Barkod.h"
 #include "Tanim_Firma.h"
 #include "Tanim_Renk.h"
 #include "Tanim_Tas.h"
@@ -38,6 +39,11 @@ MenuScreens menuTable(ScreenServices &services)
         {2, screen<Tanim_Uruntipi>(services)},
         {4, screen<Tanim_Firma>(services)},
         {5, rememberingScreen<Giris_Kur>(services)},
+        {6,
+         [&services](QWidget *parent) {
+             return std::make_unique<Tanim_Barkod>(services.context(), services.labelPrinter,
+                                                   parent);
+         }},
         {7, rememberingScreen<Giris_Siparis>(services)},
         {8, screen<Tanim_Ayar>(services)},
         {9, screen<Tanim_Renk>(services)},

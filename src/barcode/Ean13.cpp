@@ -93,6 +93,12 @@ void encodeEan13(const QString &code, const TakeBarPart &take)
     guard(edgeGuard);
 }
 
+QString ean13Digits(const QString &code)
+{
+    const QString number = twelveDigits(code);
+    return number + QString::number(checkDigit(number));
+}
+
 QString ean13Modules(const QString &code)
 {
     QString modules;

@@ -21,5 +21,8 @@ using TakeBarPart = std::function<void(const BarPart &)>;
 /// the parts before it have been handed over then.
 void encodeEan13(const QString &code, const TakeBarPart &take);
 
+/// The 13 digits that the symbol says.
+QString ean13Digits(const QString &code);
+
 /// All modules of the symbol.
 QString ean13Modules(const QString &code);

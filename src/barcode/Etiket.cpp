@@ -8,7 +8,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double leftOffset = 260;
 constexpr double secondColumn = 450;
 constexpr double gap = 5; ///< between the columns, and before the paper's edge
 
@@ -24,9 +23,8 @@ PrintDocument etiketBelgesi(const Etiket &etiket)
     };
 
     const QString number = barcodeNumber({etiket.TipID, etiket.Model_ID});
-    document.bars({labelUnits(leftOffset), labelUnits(10)},
-                  labelSymbol(number, labelUnits(secondColumn - leftOffset)));
-    YazdirYeni(leftOffset + 10, 50, etiket.Model, 7);
+    document.bars(symbolPlace, labelSymbol(number, labelUnits(secondColumn) - symbolPlace.x));
+    YazdirYeni(270, 50, etiket.Model, 7);
     YazdirYeni(secondColumn, 10, formatNumber(etiket.Miktar, u"##0.00"), 7);
     YazdirYeni(secondColumn, 30, etiket.Ayar, 7);
     const bool described = !etiket.Aciklama.trimmed().isEmpty();

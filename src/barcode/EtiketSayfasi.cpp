@@ -17,9 +17,8 @@ constexpr double step = 0.5;
 
 PageBars labelSymbol(const QString &number, Twips room)
 {
-    constexpr Twips height = labelUnits(35);
     const QString rightQuietZone(7, u'O');
-    return {ean13Modules(number) + rightQuietZone, etiketBirimi, height, room};
+    return {ean13Modules(number) + rightQuietZone, etiketBirimi, symbolHeight, room};
 }
 
 void fittedText(PrintDocument &document, PagePoint at, const QString &text, Twips end)

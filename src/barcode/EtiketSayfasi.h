@@ -19,6 +19,14 @@ constexpr Twips labelHeight = Twips::fromMillimetres(12);
 
 constexpr QStringView labelFont = u"Courier New Tur";
 
+/// Where the fixed layout has its symbol.
+constexpr PagePoint symbolPlace{labelUnits(260), labelUnits(10)};
+constexpr Twips symbolHeight = labelUnits(35);
+/// Of a symbol without its right quiet zone, as it is laid out.
+constexpr Twips symbolWidth = labelUnits(102);
+/// With its right quiet zone, where a module of two dots is widest: at 203 dpi.
+constexpr Twips widestSymbol = Twips(109 * 2 * 1440.0 / 203 + 1);
+
 /// The symbol of a product's number with its right quiet zone. It may reach
 /// as far to the right as there is room.
 PageBars labelSymbol(const QString &number, Twips room);

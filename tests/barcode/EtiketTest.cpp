@@ -1,6 +1,7 @@
 #include "Etiket.h"
 #include "BarcodeReader.h"
 #include "Ean13.h"
+#include "LabelTexts.h"
 #include "PdfReader.h"
 #include "ProductLabel.h"
 #include "TestRegistry.h"
@@ -35,16 +36,6 @@ Etiket randomLabel(QRandomGenerator &random)
             u"%1"_s.arg(random.bounded(333, 1000)),
             word(20),
             random.bounded(2) == 0 ? word(40) : QString()};
-}
-
-QList<PageText> textsOf(const PrintDocument &document)
-{
-    QList<PageText> texts;
-    for (const PageItem &item : document.pages().first().items) {
-        if (const PageText *text = std::get_if<PageText>(&item))
-            texts.append(*text);
-    }
-    return texts;
 }
 
 /// The dark and light modules in a row of dots, each so many dots wide; a
@@ -90,7 +81,7 @@ private Q_SLOTS:
 
         Etiket etiket = ring();
         etiket.Aciklama = u" Özel "_s;
-        const PageText note = textsOf(etiketBelgesi(etiket)).last();
+        const PageText note = labelTexts(etiketBelgesi(etiket)).last();
         QCOMPARE(note.text, u"Özel"_s);
         QCOMPARE(note.at, (PagePoint{4500_tw, 500_tw}));
     }
@@ -99,7 +90,7 @@ private Q_SLOTS:
     {
         Etiket etiket = ring(QString(30, u'W'));
         etiket.Aciklama = QString(40, u'M');
-        const QList<PageText> texts = textsOf(etiketBelgesi(etiket));
+        const QList<PageText> texts = labelTexts(etiketBelgesi(etiket));
         for (const PageText &text : texts) {
             const Twips end = text.at.x + printedWidth(text.font, text.text);
             QVERIFY(text.font.points >= 4.5);

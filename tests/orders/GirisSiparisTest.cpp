@@ -1,4 +1,6 @@
+#include "BarcodeReader.h"
 #include "DocumentViewer.h"
+#include "EtiketStore.h"
 #include "Giris_Siparis.h"
 #include "Keyboard.h"
 #include "OrderFixture.h"
@@ -145,6 +147,7 @@ private Q_SLOTS:
     void removesRows();
     void picksModels();
     void scansLabels();
+    void readsThePrintedLabelOfAModel();
     void quickEntry();
     void scansOnlyAddRows();
     void scansWhereverTheCursorStands();
@@ -493,6 +496,25 @@ void GirisSiparisTest::scansLabels()
     QCOMPARE(s.cursor(), std::pair(2, 0));
     s.enter(u"1600100009991"_s); // no such label: the list
     QCOMPARE(s.asked.last().ListeFiltre, u"1600100009991"_s);
+}
+
+/// From the label's dots to the row in the database.
+void GirisSiparisTest::readsThePrintedLabelOfAModel()
+{
+    Screen s;
+    const std::optional<EtiketModeli> found = EtiketStore(s.oturum).ModelBul(u"İnci-1"_s, 3);
+    QVERIFY(found);
+    const PrintDocument label = etiketBelgesi(found->etiket);
+    const QStringList read = readBarcodes(pageDots(label, label.pages().first(), 203));
+    QCOMPARE(read.size(), 1);
+
+    s.fillHeader();
+    s.answerList(u"BY"_s);
+    s.press(u"Check_HizliGiris"_s);
+    s.enter(read.first().section(u':', 1));
+    s.messages.expect(slipQuestion, MessageAnswer::No);
+    s.saveByKey();
+    QCOMPARE(s.lines(5), QStringList{u"1 İnci-1 3 BY [] 1"_s});
 }
 
 void GirisSiparisTest::quickEntry()

@@ -1,0 +1,53 @@
+#include "CommandLine.h"
+
+#include "AllCodes.h"
+#include "LabelOutput.h"
+
+#include <QCommandLineParser>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Twips module = 10_tw; ///< as on the labels
+constexpr Twips barHeight = 600_tw;
+constexpr Twips textHeight = 260_tw;
+constexpr Twips margin = 100_tw;
+
+PrintDocument symbolDocument(const QString &text, const QString &modules)
+{
+    // On coarse printers a module is wider than it is laid out.
+    const Twips room = module * (2.0 * double(modules.size()));
+    PrintDocument document(u"Barkod "_s + text, room + margin * 2,
+                           barHeight + textHeight + margin * 2);
+    document.bars({margin, margin}, {modules, module, barHeight, room});
+    document.setFont({u"Courier New Tur"_s, 8});
+    document.text({margin + module * 10, margin + barHeight + 40_tw}, text);
+    return document;
+}
+
+} // namespace
+
+/// kuyum barkod SYMBOLOGY TEXT --pdf FILE | --png FILE --dpi N: a bar code of
+/// any text.
+int barkodCommand(const QStringList &arguments)
+{
+    QCommandLineParser parser;
+    addLabelOutput(parser);
+    if (!parser.parse(QStringList{u"barkod"_s} + arguments))
+        throw WrongUsage();
+    const QStringList words = parser.positionalArguments();
+    if (words.size() != 2)
+        throw WrongUsage();
+    const LabelOutput output = labelOutput(parser);
+    QString modules;
+    const auto take = [&](const BarPart &part) { modules += part.modules; };
+    if (const std::optional<Symbology> symbology = symbologyNamed(words[0]))
+        encode(*symbology, words[1], take);
+    else if (words[0] == "ean13"_L1)
+        encodeEan13(words[1], take);
+    else
+        throw WrongUsage();
+    output.write(symbolDocument(words[1], modules));
+    return 0;
+}

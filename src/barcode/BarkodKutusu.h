@@ -1,0 +1,25 @@
+#pragma once
+
+#include "ModuleBarkod.h"
+
+#include <QWidget>
+
+/// Shows a product's symbol as on paper: black on white in every theme.
+class BarkodKutusu : public QWidget
+{
+public:
+    explicit BarkodKutusu(QWidget *parent = nullptr);
+
+    /// Draws the number's symbol; an empty number leaves the surface white.
+    /// Throws std::runtime_error as BarkodCiz() does and shows what was drawn
+    /// until then.
+    void draw(const QString &number);
+    const QImage &image() const { return m_surface.image(); }
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+
+private:
+    BarkodYuzeyi m_surface;
+};
