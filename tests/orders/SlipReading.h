@@ -100,6 +100,12 @@ inline QList<QRectF> paperOf(const PageLine &line)
                 .adjusted(-half, -half, half, half)};
 }
 
+inline QList<QRectF> paperOf(const PageSymbol &symbol)
+{
+    return {{QPointF(symbol.at.x.count(), symbol.at.y.count()),
+             QSizeF(symbol.bars.room.count(), symbol.bars.height.count())}};
+}
+
 /// The first fault of a page: two of its items share paper (lines may cross
 /// lines), or one leaves what printers reach. Empty when there is none.
 inline QString layoutFault(const PrintPage &page)
