@@ -22,6 +22,8 @@ constexpr Command commands[] = {
      u"kuyum barkod ean13|code39|code128|2of5|codabar METIN --pdf DOSYA [--dpi N] | --png DOSYA "
      "--dpi N",
      barkodCommand, true},
+    {u"model", u"kuyum model VERITABANI MODEL TIP --pdf DOSYA [--resim KLASOR]", modelCommand,
+     true},
     {u"sorgu", u"kuyum sorgu VERITABANI \"SELECT ...\"", sorguCommand},
     {u"demo", u"kuyum demo KLASOR [--olcek N]", demoCommand, true},
 };

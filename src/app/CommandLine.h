@@ -39,5 +39,6 @@ int aktarCommand(const QStringList &arguments);
 int barkodCommand(const QStringList &arguments);
 int etiketCommand(const QStringList &arguments);
 int fisCommand(const QStringList &arguments);
+int modelCommand(const QStringList &arguments);
 int sorguCommand(const QStringList &arguments);
 int demoCommand(const QStringList &arguments);

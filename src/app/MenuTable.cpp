@@ -6,6 +6,8 @@
 #include "Tanim_Ayar.h"
 #include "Tanim_Barkod.h"
 #include "Tanim_Firma.h"
+#include "Tanim_Kalip.h"
+#include "Tanim_Model.h"
 #include "Tanim_Renk.h"
 #include "Tanim_Tas.h"
 #include "Tanim_Uruntipi.h"
@@ -30,13 +32,30 @@ ScreenFactory rememberingScreen(ScreenServices &services)
     };
 }
 
+ScreenFactory moldScreen(ScreenServices &services)
+{
+    return [&services](QWidget *parent) {
+        return std::make_unique<Tanim_Kalip>(services.context(), CameraOpener(), parent);
+    };
+}
+
+ScreenFactory modelScreen(ScreenServices &services)
+{
+    return [&services](QWidget *parent) {
+        return std::make_unique<Tanim_Model>(services.context(), services.labelPrinter,
+                                             CameraOpener(), parent);
+    };
+}
+
 } // namespace
 
 MenuScreens menuTable(ScreenServices &services)
 {
     return {
         {0, screen<Tanim_Tas>(services)},
+        {1, moldScreen(services)},
         {2, screen<Tanim_Uruntipi>(services)},
+        {3, modelScreen(services)},
         {4, screen<Tanim_Firma>(services)},
         {5, rememberingScreen<Giris_Kur>(services)},
         {6,

@@ -26,7 +26,7 @@ void TanimEkrani::setUpForm(const Form &form)
     m_table = oturum().Veritabani->tableDef(form.table);
     bind(form.parts.cmdListe, &TanimEkrani::pick);
     bind(form.parts.cmdKayit, &TanimEkrani::save);
-    bind(form.parts.cmdvazgec, &TanimEkrani::TusKapa);
+    bind(form.parts.cmdvazgec, &TanimEkrani::Vazgec);
     bind(form.parts.cmdsil, &TanimEkrani::removeFound);
     connect(form.parts.cmdSon, &QPushButton::clicked, this, &QDialog::reject);
     for (auto *button : findChildren<QPushButton *>())
@@ -65,7 +65,7 @@ void TanimEkrani::keyPressEvent(QKeyEvent *event)
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         guarded(m_context.messages, this, [this] { enterPressed(); });
     else if (event->key() == Qt::Key_Escape && isEditing())
-        guarded(m_context.messages, this, [this] { TusKapa(); });
+        guarded(m_context.messages, this, [this] { Vazgec(); });
     else
         QDialog::keyPressEvent(event);
 }
@@ -143,6 +143,18 @@ void TanimEkrani::TusKapa()
     m_form.parts.kayitDurumu->clear();
     setEnabled(Found::Refused, false);
     goTo(m_form.keys.first());
+}
+
+void TanimEkrani::Vazgec()
+{
+    if (mayLeave())
+        TusKapa();
+}
+
+void TanimEkrani::reject()
+{
+    if (mayLeave())
+        QDialog::reject();
 }
 
 void TanimEkrani::emptyForm()

@@ -27,6 +27,10 @@ class TanimEkrani : public QDialog
 {
     Q_OBJECT
 
+public:
+    /// Leaves the screen, where it lets itself be left.
+    void reject() override;
+
 protected:
     /// What reading the row of the key came to. Refused: the screen has said
     /// why, and stays in key entry.
@@ -77,14 +81,19 @@ protected:
     virtual bool hasKey() const;
     /// Enter in one of the keys.
     virtual void keyEntered(QWidget *key);
+    /// Whether what is being edited may be given up; the screen asks where that
+    /// would cost much.
+    virtual bool mayLeave() { return true; }
     /// Empties all keys and values; lists go back to their first entry.
     virtual void emptyForm();
 
     /// Finds the row of the key and switches to editing.
     void Bul();
     void TusAC(Found found);
-    /// Back to key entry, with everything emptied: also what `cmdvazgec` does.
+    /// Back to key entry, with everything emptied.
     void TusKapa();
+    /// What `cmdvazgec` and Escape do.
+    void Vazgec();
     bool isEditing() const;
 
     /// Goes to a control, a text selected whole.

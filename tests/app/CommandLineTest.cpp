@@ -1,3 +1,4 @@
+#include "PdfReader.h"
 #include "SampleCompany.h"
 #include "TestRegistry.h"
 
@@ -63,6 +64,8 @@ private Q_SLOTS:
         QTest::newRow("a slip without a file") << QStringList{u"fis"_s, m_database, u"1"_s};
         QTest::newRow("an order that is no number")
             << QStringList{u"fis"_s, m_database, u"bir"_s, u"--pdf"_s, u"x.pdf"_s};
+        QTest::newRow("a sheet without a type")
+            << QStringList{u"model"_s, m_database, u"A75"_s, u"--pdf"_s, u"x.pdf"_s};
         QTest::newRow("an empty folder name") << QStringList{u"demo"_s, QString()};
     }
     void wrongWordsShowTheUsage()
@@ -132,6 +135,27 @@ private Q_SLOTS:
             kuyum({u"sorgu"_s, m_database, u"Select Milyem From Ayar Where Milyem = 1"_s});
         QCOMPARE(outcome.exitCode, 0);
         QCOMPARE(outcome.output, u"\"Milyem\"\n"_s);
+    }
+
+    void aModelsSheetIsPrinted()
+    {
+        const QString pdf = m_folder.filePath(u"föy.pdf"_s);
+        // The type by its number, its short name and its name.
+        for (const QString &type : {u"2"_s, u"kly"_s, u"Kolye"_s}) {
+            QFile::remove(pdf);
+            const Outcome outcome =
+                kuyum({u"model"_s, m_database, u"a75"_s, type, u"--pdf"_s, pdf});
+            QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.error));
+            QCOMPARE(pdfWord(pdf, u"KLY"_s).page, 1);
+        }
+        QFile::remove(pdf);
+        for (const QStringList &words : {QStringList{u"A75"_s, u"3"_s}, {u"A75"_s, u"YOK"_s}}) {
+            const Outcome outcome =
+                kuyum(QStringList{u"model"_s, m_database} + words + QStringList{u"--pdf"_s, pdf});
+            QCOMPARE(outcome.exitCode, 1);
+            QVERIFY2(outcome.error.contains(u"bulunamadı"_s), qPrintable(outcome.error));
+        }
+        QVERIFY(!QFile::exists(pdf));
     }
 
     void aLegacyFileIsTakenOverOnce()

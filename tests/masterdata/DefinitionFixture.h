@@ -1,7 +1,9 @@
 #pragma once
 
 #include "DocumentViewer.h"
+#include "LabelPrinter.h"
 #include "Oturum.h"
+#include "PrintDocument.h"
 #include "SampleCompany.h"
 #include "ScreenContext.h"
 #include "ScriptedMessages.h"
@@ -10,6 +12,28 @@
 
 #include <QTemporaryDir>
 #include <QtTest>
+
+/// Keeps what was to be shown.
+struct KeptDocuments : DocumentViewer
+{
+    void show(QWidget *, const PrintDocument &document) override { shown.append(document); }
+    QList<PrintDocument> shown;
+};
+
+/// Keeps what was to be printed, or fails with a text.
+struct KeptLabels : LabelPrinter
+{
+    void print(const PrintDocument &document, const QString &printerName) override
+    {
+        if (!failure.isEmpty())
+            throw std::runtime_error(failure.toStdString());
+        printed.append(document);
+        printer = printerName;
+    }
+    QList<PrintDocument> printed;
+    QString printer;
+    QString failure;
+};
 
 /// A definition screen on a fresh copy of the sample company, with a lookup
 /// list that answers as told beforehand.
@@ -26,13 +50,17 @@ struct DefinitionFixture
 
     void open()
     {
-        screen = std::make_unique<Screen>(
-            ScreenContext{oturum, messages,
-                          [this](QWidget *, const LookupRequest &request) {
-                              asked.append(request);
-                              return answers.isEmpty() ? LookupAnswer() : answers.takeFirst();
-                          },
-                          viewer});
+        const ScreenContext context{oturum, messages,
+                                    [this](QWidget *, const LookupRequest &request) {
+                                        asked.append(request);
+                                        return answers.isEmpty() ? LookupAnswer()
+                                                                 : answers.takeFirst();
+                                    },
+                                    viewer};
+        if constexpr (std::is_constructible_v<Screen, ScreenContext, LabelPrinter &>)
+            screen = std::make_unique<Screen>(context, labels);
+        else
+            screen = std::make_unique<Screen>(context);
         screen->show();
         QVERIFY(QTest::qWaitForWindowActive(screen.get()));
         QCOMPARE(sharedLetters(), QStringList());
@@ -124,12 +152,7 @@ struct DefinitionFixture
     ScriptedMessages messages;
     QList<LookupRequest> asked;
     QList<LookupAnswer> answers;
+    KeptDocuments viewer;
+    KeptLabels labels;
     std::unique_ptr<Screen> screen;
-
-private:
-    struct NoViewer : DocumentViewer
-    {
-        void show(QWidget *, const PrintDocument &) override { QFAIL("printed"); }
-    };
-    NoViewer viewer;
 };

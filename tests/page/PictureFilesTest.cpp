@@ -164,6 +164,12 @@ private Q_SLOTS:
         const QImage back = loadPicture(path, {99, 99}).image;
         QCOMPARE(back.size(), image.size());
         QCOMPARE(back.pixelColor(10, 10), QColor(Qt::white)); // never black
+
+        // How the camera was held is in the picture itself from then on.
+        write(u"turned.jpg"_s, turnedJpeg(400, 200, 6));
+        savePicture(loadPicture(m_dir->filePath(u"turned.jpg"_s), {900, 900}).image, path);
+        QVERIFY(!read(path).contains("Exif"));
+        QCOMPARE(QImageReader(path).size(), QSize(200, 400));
     }
 
     void keepsTheOldFileWhenTheDiskIsFull()

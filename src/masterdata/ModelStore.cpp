@@ -1,0 +1,138 @@
+#include "ModelStore.h"
+
+#include "Numbers.h"
+#include "Oturum.h"
+#include "SqlText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString keyCondition(const QString &model, qint32 TipID)
+{
+    return u"Where Model = "_s + sqlText(model) + u" and M_uruntip = "_s + sqlNumber(TipID);
+}
+
+void addRow(Recordset &rows, const Model &model, const ModelSatiri &material)
+{
+    rows.addNew();
+    rows.set(u"Model", model.ad);
+    rows.set(u"m_uruntip", model.M_Uruntip);
+    rows.set(u"m_kod", material.M_Kod);
+    rows.set(u"m_adet", material.M_Adet);
+    rows.set(u"m_tip", material.tip == MalzemeTipi::Tas ? 0 : 1);
+    rows.set(u"m_miktar", model.M_Miktar);
+    rows.update();
+}
+
+} // namespace
+
+QString malzemeAdi(MalzemeTipi tip)
+{
+    switch (tip) {
+    case MalzemeTipi::Tas:
+        return u"Tas"_s;
+    case MalzemeTipi::YariMamul:
+        return u"Yarı Mamul"_s;
+    case MalzemeTipi::Bos:
+        break;
+    }
+    return {};
+}
+
+QList<ModelTipi> ModelStore::UrunTipleri() const
+{
+    Recordset Kayit = m_oturum->sorgula(u"Select * From Uruntipi"_s);
+    QList<ModelTipi> types;
+    while (Kayit.next()) {
+        types.append(
+            {qint32(Kayit.integer(u"TipID")), Kayit.text(u"UrunTipi"), Kayit.text(u"KisaAD")});
+    }
+    return types;
+}
+
+std::optional<Model> ModelStore::ModelBul(const QString &model, qint32 TipID) const
+{
+    Recordset Kayit = m_oturum->sorgula(
+        u"Select * FROM Model INNER JOIN UrunTipi ON Model.M_Uruntip = UrunTipi.TipID "_s +
+        keyCondition(model, TipID));
+    if (!Kayit.next())
+        return std::nullopt;
+    Model found{model, TipID, Kayit.number(u"M_Miktar"), {}, 0};
+    QList<ModelSatiri> stored;
+    do {
+        found.Model_ID = qint32(Kayit.integer(u"Model_ID"));
+        stored.append({Kayit.integer(u"M_Tip") == 0 ? MalzemeTipi::Tas : MalzemeTipi::YariMamul,
+                       {},
+                       qint32(Kayit.integer(u"M_Kod")),
+                       Kayit.number(u"M_Adet")});
+    } while (Kayit.next());
+    found.satirlar = ModelDoldur(stored);
+    return found;
+}
+
+QList<ModelSatiri> ModelStore::ModelDoldur(const QList<ModelSatiri> &stored) const
+{
+    QList<ModelSatiri> rows;
+    for (ModelSatiri row : stored) {
+        if (row.M_Kod == 0)
+            continue;
+        row.Kod = kodu(row);
+        rows.append(row);
+    }
+    return rows;
+}
+
+QString ModelStore::kodu(const ModelSatiri &row) const
+{
+    const bool stone = row.tip == MalzemeTipi::Tas;
+    Recordset Kayit = m_oturum->sorgula((stone ? u"Select * From Tas where tasID = "_s
+                                               : u"Select * From Kalip where KalipID = "_s) +
+                                        sqlNumber(row.M_Kod));
+    return Kayit.next() ? Kayit.text(stone ? u"Taskodu" : u"KalipKodu") : QString();
+}
+
+std::optional<Malzeme> ModelStore::malzemeBul(MalzemeTipi tip, const QString &kod) const
+{
+    const bool stone = tip == MalzemeTipi::Tas;
+    Recordset Kayit = m_oturum->sorgula((stone ? u"Select * From Tas Where Taskodu = "_s
+                                               : u"Select * From Kalip Where KalipKodu = "_s) +
+                                        sqlText(kod));
+    if (!Kayit.next())
+        return std::nullopt;
+    return Malzeme{qint32(Kayit.integer(stone ? u"TasID" : u"KalipID")),
+                   Kayit.text(stone ? u"Taskodu" : u"KalipKodu")};
+}
+
+QString ModelStore::KisaADBul(const QString &model, qint32 TipID) const
+{
+    Recordset Kayit = m_oturum->sorgula(
+        u"Select Kisaad FROM Model INNER JOIN UrunTipi ON Model.M_Uruntip = UrunTipi.TipID "_s +
+        keyCondition(model, TipID));
+    return Kayit.next() ? Kayit.text(u"Kisaad") : QString();
+}
+
+void ModelStore::save(Model &model, bool found) const
+{
+    Transaction rewrite(*m_oturum->Veritabani);
+    if (found)
+        m_oturum->calistir(u"DELETE From Model "_s + keyCondition(model.ad, model.M_Uruntip));
+    Recordset rows = m_oturum->Veritabani->table(u"Model"_s);
+    bool any = false;
+    for (const ModelSatiri &material : std::as_const(model.satirlar)) {
+        if (!material.isStored())
+            continue;
+        addRow(rows, model, material);
+        any = true;
+    }
+    if (!any)
+        addRow(rows, model, {MalzemeTipi::Tas, {}, 0, 0});
+    const auto id = qint32(rows.integer(u"Model_ID"));
+    rewrite.commit();
+    model.Model_ID = id;
+}
+
+void ModelStore::remove(const QString &model, qint32 TipID) const
+{
+    m_oturum->calistir(u"DELETE From Model "_s + keyCondition(model, TipID));
+}

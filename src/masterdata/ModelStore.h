@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Model.h"
+
+#include <optional>
+
+struct Oturum;
+
+/// A stone or a mold, found by its code.
+struct Malzeme
+{
+    qint32 id = 0; ///< `TasID` or `KalipID`
+    QString kod;
+};
+
+/// Finds, saves and removes models. Everything throws DatabaseError.
+class ModelStore
+{
+public:
+    explicit ModelStore(Oturum &oturum) : m_oturum(&oturum) {}
+
+    QList<ModelTipi> UrunTipleri() const;
+
+    /// The model with its materials; nothing when there is none of that type.
+    std::optional<Model> ModelBul(const QString &model, qint32 TipID) const;
+    /// The stone or mold of that code.
+    std::optional<Malzeme> malzemeBul(MalzemeTipi tip, const QString &kod) const;
+    /// The short name of the product type under which the model is stored;
+    /// empty when it is not.
+    QString KisaADBul(const QString &model, qint32 TipID) const;
+
+    /// Writes the model's rows, one of a model without materials; those of a
+    /// model that was found are replaced, in one transaction. Rows without a
+    /// code or a count are left out. `model` gets the last row's Model_ID.
+    void save(Model &model, bool found) const;
+    void remove(const QString &model, qint32 TipID) const;
+
+private:
+    QList<ModelSatiri> ModelDoldur(const QList<ModelSatiri> &stored) const;
+    QString kodu(const ModelSatiri &row) const;
+
+    Oturum *m_oturum;
+};
