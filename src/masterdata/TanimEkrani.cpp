@@ -133,6 +133,11 @@ void TanimEkrani::TusAC(Found found)
 {
     setEnabled(found, true);
     m_form.parts.kayitDurumu->setText(found == Found::Row ? u"Kayıtlı"_s : u"Yeni kayıt"_s);
+    for (QWidget *value : m_form.values) {
+        // A text longer than its box is read from its beginning.
+        if (auto *box = qobject_cast<QLineEdit *>(value))
+            box->setCursorPosition(0);
+    }
     goTo(m_form.values.first());
 }
 

@@ -6,6 +6,7 @@
 #include "ui_Tanim_Firma.h"
 
 #include <QKeyEvent>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +24,8 @@ Tanim_Firma::Tanim_Firma(const ScreenContext &context, QWidget *parent)
                           m_ui->Ulke, m_ui->txtAciklama},
                .numbers = {}});
     limitText(*m_ui->txtAciklama, u"Aciklama");
+    constexpr int roomyWidth = 820;
+    resize(qMin(roomyWidth, screen()->availableSize().width()), sizeHint().height());
 }
 
 Tanim_Firma::~Tanim_Firma() = default;
