@@ -174,7 +174,9 @@ bool Liste_Combo::gridKey(QKeyEvent *event)
     switch (event->key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        take();
+        // Still held from what opened the list, it has chosen nothing.
+        if (!event->isAutoRepeat())
+            take();
         return true;
     case Qt::Key_Escape:
         reject();

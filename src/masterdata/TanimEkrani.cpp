@@ -32,6 +32,8 @@ void TanimEkrani::setUpForm(const Form &form)
     for (auto *button : findChildren<QPushButton *>())
         button->setAutoDefault(false); // Enter on a text must not press a button
     form.parts.cmdKayit->setDefault(true);
+    // A default button takes Enter for itself.
+    ignoreHeldEnter(*form.parts.cmdKayit);
     QPalette muted = palette();
     const QColor mutedText = themeColors(muted).muted;
     muted.setColor(QPalette::WindowText, mutedText);
@@ -62,7 +64,10 @@ void TanimEkrani::bind(QPushButton *button, void (TanimEkrani::*action)())
 
 void TanimEkrani::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    // The steps after the one that was meant would save, list or close.
+    if (event->isAutoRepeat() && (isEnter(*event) || event->key() == Qt::Key_Escape))
+        return;
+    if (isEnter(*event))
         guarded(m_context.messages, this, [this] { enterPressed(); });
     else if (event->key() == Qt::Key_Escape && isEditing())
         guarded(m_context.messages, this, [this] { Vazgec(); });

@@ -20,6 +20,8 @@ class QPushButton;
 ///   and from the last to `cmdKayit`; Escape abandons the row. Closing does
 ///   not ask.
 ///
+/// Enter and Escape held down take one step, not many.
+///
 /// A screen calls setUpForm() at the end of its constructor and says how its
 /// row is picked, read, written and removed. An error that one of these throws
 /// is shown and leaves the screen as it was typed.

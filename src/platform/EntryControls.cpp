@@ -5,8 +5,9 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QFocusEvent>
+#include <QKeyEvent>
 #include <QLineEdit>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -97,6 +98,36 @@ public:
 void selectOnEntry(QLineEdit &box)
 {
     box.installEventFilter(new EntrySelection(&box));
+}
+
+bool isEnter(const QKeyEvent &event)
+{
+    return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+namespace {
+
+class HeldEnter : public QObject
+{
+public:
+    explicit HeldEnter(QPushButton *button) : QObject(button) {}
+
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::KeyPress) {
+            const auto *key = static_cast<QKeyEvent *>(event);
+            if (key->isAutoRepeat() && isEnter(*key))
+                return true;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+} // namespace
+
+void ignoreHeldEnter(QPushButton &button)
+{
+    button.installEventFilter(new HeldEnter(&button));
 }
 
 template <typename Paint>

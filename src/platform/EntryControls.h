@@ -6,7 +6,9 @@ class Messages;
 class QAbstractItemView;
 class QColor;
 class QComboBox;
+class QKeyEvent;
 class QLineEdit;
+class QPushButton;
 
 /// Helpers of the boxes, lists and grids that data are entered with.
 
@@ -27,6 +29,11 @@ void TumunuSec(QLineEdit &box);
 /// Selects the box's whole text whenever the user goes into it. Coming back
 /// from another window or from the box's menu does not count: the cursor stays.
 void selectOnEntry(QLineEdit &box);
+
+/// Whether a key press is Enter's, on either part of the keyboard.
+bool isEnter(const QKeyEvent &event);
+/// Lets an Enter that is held down press the button but once.
+void ignoreHeldEnter(QPushButton &button);
 
 /// Mark the grid's current row, cell by cell, in the model's own roles; the
 /// first column becomes the current one.

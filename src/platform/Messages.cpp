@@ -1,7 +1,10 @@
 #include "Messages.h"
 
+#include "EntryControls.h"
+
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -26,12 +29,15 @@ MessageAnswer MessageBoxes::show(QWidget *parent, const Message &message)
                     parent);
     box.setTextFormat(Qt::PlainText);
     if (message.buttons == MessageButtons::Ok) {
-        box.addButton(u"&Tamam"_s, QMessageBox::AcceptRole);
+        ignoreHeldEnter(*box.addButton(u"&Tamam"_s, QMessageBox::AcceptRole));
         box.exec();
         return MessageAnswer::Ok;
     }
     QPushButton *yes = box.addButton(u"&Evet"_s, QMessageBox::YesRole);
     QPushButton *no = box.addButton(u"&Hayır"_s, QMessageBox::NoRole);
+    // Held down from what led to the question, it would answer it unread.
+    ignoreHeldEnter(*yes);
+    ignoreHeldEnter(*no);
     box.setDefaultButton(message.defaultAnswer == MessageAnswer::No ? no : yes);
     box.setEscapeButton(no);
     box.exec();

@@ -5,6 +5,7 @@
 #include "ScriptedMessages.h"
 #include "SqliteEngine.h"
 #include "TestRegistry.h"
+#include "Typing.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
@@ -52,6 +53,8 @@ private Q_SLOTS:
     void takesTheHighlightedRow()
     {
         open(u"Tas Listesi"_s);
+        holdKey(m_grid, Qt::Key_Return); // of what opened the list
+        QVERIFY(m_dialog->isVisible());
         QTest::keyClick(m_grid, Qt::Key_Down);
         QTest::keyClick(m_grid, Qt::Key_Return);
         QCOMPARE(m_dialog->result(), int(QDialog::Accepted));

@@ -116,6 +116,23 @@ private Q_SLOTS:
         QVERIFY(!untouched.screen->isVisible());
     }
 
+    void takesOneStepForAKeyHeldDown()
+    {
+        const Stones on;
+        const auto hold = [&on](Qt::Key key) { holdKey(on.screen->focusWidget(), key); };
+        on.enter({u"PRL 1"_s});
+        hold(Qt::Key_Return);
+        QCOMPARE(on.focus(), u"TasFiyati"_s);
+        on.enter({QString(), QString(), QString()});
+        hold(Qt::Key_Return);
+        QVERIFY(on.isEditing());
+        on.key(Qt::Key_Escape);
+        hold(Qt::Key_Return);
+        QVERIFY(on.asked.isEmpty());
+        hold(Qt::Key_Escape);
+        QVERIFY(on.screen->isVisible());
+    }
+
     void takesNothingButNumbers()
     {
         Stones on;

@@ -9,3 +9,10 @@ inline void typeText(QWidget *widget, const QString &text)
     for (const QChar letter : text)
         QTest::sendKeyEvent(QTest::Click, widget, Qt::Key_unknown, QString(letter), Qt::NoModifier);
 }
+
+/// One more press of a key that is held down since before.
+inline void holdKey(QWidget *widget, Qt::Key key)
+{
+    QKeyEvent repeat(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
+    QCoreApplication::sendEvent(widget, &repeat);
+}
