@@ -48,8 +48,10 @@ void TanimEkrani::setUpForm(const Form &form)
             selectOnEntry(*box);
         }
     }
-    for (QLineEdit *box : form.numbers)
+    for (QLineEdit *box : form.numbers) {
         keepNumeric(*box, m_context.messages);
+        connect(box, &QLineEdit::textEdited, this, [this, box] { m_shown.remove(box); });
+    }
     TusKapa();
 }
 
@@ -196,10 +198,14 @@ void TanimEkrani::pick()
 
 void TanimEkrani::save()
 {
-    const bool fit = std::all_of(m_form.numbers.begin(), m_form.numbers.end(),
-                                 [this](QLineEdit *box) { return numberFits(*box); });
-    if (fit && writeRow())
+    if (mayWrite() && writeRow())
         TusKapa();
+}
+
+bool TanimEkrani::mayWrite()
+{
+    return std::all_of(m_form.numbers.begin(), m_form.numbers.end(),
+                       [this](QLineEdit *box) { return numberFits(*box); });
 }
 
 void TanimEkrani::removeFound()

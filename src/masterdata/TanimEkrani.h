@@ -72,6 +72,9 @@ protected:
     virtual bool pickKey() = 0;
     /// Shows the row of the key, when there is one.
     virtual Found readRow() = 0;
+    /// Whether what is on the screen can be written: the numbers fit. If not,
+    /// says so and goes there.
+    virtual bool mayWrite();
     /// Writes the row that is on the screen; false when the screen refused it
     /// and has said why.
     virtual bool writeRow() = 0;

@@ -56,7 +56,7 @@ TanimEkrani::Found Tanim_Uruntipi::readRow()
     return Found::Row;
 }
 
-bool Tanim_Uruntipi::writeRow()
+bool Tanim_Uruntipi::mayWrite()
 {
     for (const auto &[box, missing] :
          {std::pair{m_ui->UrunTipi, u"ÜRÜN TİPİ GİRİLMEK ZORUNDADIR..."_s},
@@ -67,6 +67,11 @@ bool Tanim_Uruntipi::writeRow()
             return false;
         }
     }
+    return TanimEkrani::mayWrite();
+}
+
+bool Tanim_Uruntipi::writeRow()
+{
     m_store.save({TipID(), m_ui->UrunTipi->text(), m_ui->KisaAD->text(), number(*m_ui->Sirano)});
     return true;
 }

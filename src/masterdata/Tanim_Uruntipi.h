@@ -22,6 +22,7 @@ private:
     bool hasKey() const override;
     bool pickKey() override;
     Found readRow() override;
+    bool mayWrite() override;
     bool writeRow() override;
     bool mayRemove() override;
     void removeRow() override;

@@ -30,9 +30,11 @@ void UrunTipiStore::save(const UrunTipiKaydi &tip) const
     if (isNew) {
         Kayit.addNew();
         Kayit.set(u"tiptarih", m_oturum->CalismaTarihi);
-    } else {
-        Kayit.next();
+    } else if (Kayit.next()) {
         Kayit.edit();
+    } else {
+        throw DatabaseError(u"%1 numaralı ürün tipi bu arada silinmiş, değiştirilemez."_s.arg(
+            plainNumber(tip.TipID)));
     }
     Kayit.set(u"UrunTipi", tip.UrunTipi);
     Kayit.set(u"KisaAD", tip.KisaAD);

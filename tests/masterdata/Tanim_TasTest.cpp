@@ -58,6 +58,10 @@ private Q_SLOTS:
         // A field that is entered is typed over; one passed by keeps its exact value.
         on.enter({QString(), QString(), u".5"_s, QString()});
         QCOMPARE(on.stone(u"ZRK 2"_s), u"ZRK 2|0.034|USD|0.5|02.03.2010"_s);
+        // Typed as it was shown, it counts as it was typed.
+        on.enter({u"ZRK 2"_s, u"0.03"_s});
+        on.press(Qt::Key_K, u"cmdKayit"_s);
+        QCOMPARE(on.stone(u"ZRK 2"_s), u"ZRK 2|0.03|USD|0.5|02.03.2010"_s);
     }
 
     void picksFromTheList()

@@ -79,6 +79,7 @@ private Q_SLOTS:
         on.enter({u"1"_s});
         for (const QString &name : {u"UrunTipi"_s, u"KisaAD"_s})
             on.control<QLineEdit>(name)->setText(u" "_s);
+        on.control<QLineEdit>(u"Sirano"_s)->setText(u"99999"_s); // told of last
         refuses(u"ÜRÜN TİPİ GİRİLMEK ZORUNDADIR..."_s, u"UrunTipi"_s);
         on.enter({u"Yüzük"_s});
         refuses(u"KISA AD GİRİLMEK ZORUNDADIR..."_s, u"KisaAD"_s);
@@ -89,6 +90,20 @@ private Q_SLOTS:
             QCOMPARE(on.text(u"Sirano"_s), number);
         }
         QCOMPARE(on.type(1), u"Yüzük|YZK|2|"_s);
+    }
+
+    void savesNoTypeThatIsGone()
+    {
+        ProductTypes on;
+        on.enter({u"3"_s, u"Halka"_s});
+        on.oturum.Veritabani->execute(u"DELETE From UrunTipi Where TipID = 3"_s);
+        on.messages.expect({.text = u"3 numaralı ürün tipi bu arada silinmiş, değiştirilemez."_s,
+                            .title = u"HATA"_s,
+                            .icon = MessageIcon::Critical});
+        on.press(Qt::Key_K, u"cmdKayit"_s);
+        on.messages.verify();
+        QCOMPARE(on.text(u"UrunTipi"_s), u"Halka"_s);
+        QCOMPARE(on.row(u"Select Count(*) as n From UrunTipi"_s), u"2"_s);
     }
 
     void removesAfterAQuestion()
