@@ -25,17 +25,18 @@ QSize BarkodKutusu::sizeHint() const
 void BarkodKutusu::draw(const QString &number)
 {
     update();
-    if (number.isEmpty())
-        m_surface.clear();
-    else
+    m_isDrawn = !number.isEmpty();
+    if (m_isDrawn)
         BarkodCiz(m_surface, number);
 }
 
 void BarkodKutusu::paintEvent(QPaintEvent *)
 {
+    if (!m_isDrawn)
+        return;
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     const QSize size = surfaceSize * pixelsPerUnit;
     const QPoint corner((width() - size.width()) / 2, (height() - size.height()) / 2);
-    painter.drawImage(QRect(corner, size), image());
+    painter.drawImage(QRect(corner, size), m_surface.image());
 }

@@ -10,11 +10,10 @@ class BarkodKutusu : public QWidget
 public:
     explicit BarkodKutusu(QWidget *parent = nullptr);
 
-    /// Draws the number's symbol; an empty number leaves the surface white.
+    /// Draws the number's symbol; an empty number leaves the box empty.
     /// Throws std::runtime_error as BarkodCiz() does and shows what was drawn
     /// until then.
     void draw(const QString &number);
-    const QImage &image() const { return m_surface.image(); }
     QSize sizeHint() const override;
 
 protected:
@@ -22,4 +21,5 @@ protected:
 
 private:
     BarkodYuzeyi m_surface;
+    bool m_isDrawn = false;
 };

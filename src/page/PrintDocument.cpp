@@ -161,6 +161,13 @@ void PrintDocument::picture(PagePoint at, Twips width, Twips height, const QImag
     add(PagePicture{at, width, height, image});
 }
 
+/// Asked for at every text; the system takes a millisecond to answer.
+static bool isInstalled(const QString &family)
+{
+    static const QStringList families = QFontDatabase::families();
+    return families.contains(family, Qt::CaseInsensitive);
+}
+
 QString printedFamily(const QString &family)
 {
     // The names carry the script of the old character sets, as in "Arial Tur".
@@ -172,11 +179,11 @@ QString printedFamily(const QString &family)
             continue;
         for (const char16_t *stand : face.stands) {
             const QString name = QString::fromUtf16(stand);
-            if (QFontDatabase::hasFamily(name))
+            if (isInstalled(name))
                 return name;
         }
     }
-    if (QFontDatabase::hasFamily(plain))
+    if (isInstalled(plain))
         return plain;
     return QFontDatabase::systemFont(QFontDatabase::FixedFont).family();
 }

@@ -1,3 +1,4 @@
+#include "BarcodeReader.h"
 #include "PdfReader.h"
 #include "SampleCompany.h"
 #include "TestRegistry.h"
@@ -66,6 +67,15 @@ private Q_SLOTS:
             << QStringList{u"fis"_s, m_database, u"bir"_s, u"--pdf"_s, u"x.pdf"_s};
         QTest::newRow("a sheet without a type")
             << QStringList{u"model"_s, m_database, u"A75"_s, u"--pdf"_s, u"x.pdf"_s};
+        const QStringList label{u"etiket"_s, m_database, u"A75"_s, u"1"_s};
+        QTest::newRow("a label without a file") << label;
+        QTest::newRow("a label in two files")
+            << label + QStringList{u"--pdf"_s, u"x.pdf"_s, u"--png"_s, u"x.png"_s};
+        QTest::newRow("dots of no size") << label + QStringList{u"--png"_s, u"x.png"_s};
+        QTest::newRow("dots too coarse")
+            << label + QStringList{u"--png"_s, u"x.png"_s, u"--dpi"_s, u"50"_s};
+        QTest::newRow("an unknown symbology")
+            << QStringList{u"barkod"_s, u"qr"_s, u"1"_s, u"--pdf"_s, u"x.pdf"_s};
         QTest::newRow("an empty folder name") << QStringList{u"demo"_s, QString()};
     }
     void wrongWordsShowTheUsage()
@@ -156,6 +166,40 @@ private Q_SLOTS:
             QVERIFY2(outcome.error.contains(u"bulunamadı"_s), qPrintable(outcome.error));
         }
         QVERIFY(!QFile::exists(pdf));
+    }
+
+    void aLabelIsDrawnOfTheModelUnderItsType()
+    {
+        const QString png = m_folder.filePath(u"etiket.png"_s);
+        const auto label = [&](const QString &model, const QString &type) {
+            QFile::remove(png);
+            return kuyum(
+                {u"etiket"_s, m_database, model, type, u"--png"_s, png, u"--dpi"_s, u"203"_s});
+        };
+        // The necklace's first row; its type by number, short name and name.
+        for (const QString &type : {u"2"_s, u"kly"_s, u"Kolye"_s}) {
+            QCOMPARE(label(u"A75"_s, type).exitCode, 0);
+            QCOMPARE(readBarcodes(QImage(png)), QStringList{u"EAN-13:1600200000030"_s});
+        }
+        const Outcome unknown = label(u"İnci-1"_s, u"2"_s);
+        QCOMPARE(unknown.exitCode, 1);
+        QVERIFY2(unknown.error.contains(u"İnci-1 modeli 2 ürün tipinde bulunamadı."_s),
+                 qPrintable(unknown.error));
+        QVERIFY(!QFile::exists(png));
+        QCOMPARE(label(u"A75"_s, u"Saat"_s).exitCode, 1);
+    }
+
+    void aBarCodeIsDrawnOfAText()
+    {
+        const QString png = m_folder.filePath(u"barkod.png"_s);
+        const auto draw = [&](const QString &symbology, const QString &text) {
+            return kuyum({u"barkod"_s, symbology, text, u"--png"_s, png, u"--dpi"_s, u"203"_s});
+        };
+        QCOMPARE(draw(u"code128"_s, u"Set-12 ab"_s).exitCode, 0);
+        QCOMPARE(readBarcodes(QImage(png)), QStringList{u"CODE-128:Set-12 ab"_s});
+        const Outcome refused = draw(u"code39"_s, u"ı"_s);
+        QCOMPARE(refused.exitCode, 1);
+        QVERIFY2(refused.error.contains(u"\"ı\""_s), qPrintable(refused.error));
     }
 
     void aLegacyFileIsTakenOverOnce()
