@@ -1,5 +1,6 @@
 #include "Giris_Siparis.h"
 
+#include "CellEditors.h"
 #include "EntryControls.h"
 #include "Guarded.h"
 #include "ModelEntry.h"
@@ -139,8 +140,21 @@ void Giris_Siparis::keyPressEvent(QKeyEvent *event)
         guarded(m_context.messages, this, [this] { enterPressed(); });
     else if (event->key() == Qt::Key_Escape && isEditing())
         guarded(m_context.messages, this, [this] { abandon(); });
-    else
+    else if (!takeScanPastControls(event))
         QDialog::keyPressEvent(event);
+}
+
+/// In quick entry a label is scanned also when a button was clicked last: what
+/// no control takes as typed goes into the grid, from the first digit on.
+bool Giris_Siparis::takeScanPastControls(QKeyEvent *event)
+{
+    const bool digit = CellEditors::types(event) && event->text().front().isDigit();
+    if (!digit || !m_ui->Check_HizliGiris->isChecked() || !isEditing() || m_ui->Rapor->hasFocus())
+        return false;
+    m_ui->Rapor->goToEmptyRow();
+    m_ui->Rapor->setFocus(Qt::OtherFocusReason);
+    QCoreApplication::sendEvent(m_ui->Rapor, event);
+    return true;
 }
 
 /// Enter goes on: from the number to its order, from field to field, and from

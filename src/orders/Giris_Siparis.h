@@ -67,6 +67,7 @@ private:
     void removeRow(int row);
     void setQuickEntry(bool on);
     void pickFixedColour();
+    bool takeScanPastControls(QKeyEvent *event);
     enum class PictureError { Tell, Skip };
     void ResimGoster(const QString &model, PictureError onError);
     void showWarning(const QString &text);

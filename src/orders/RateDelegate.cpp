@@ -8,8 +8,9 @@
 
 using namespace Qt::StringLiterals;
 
-/// As many digits as a number keeps, and the point.
-static constexpr int longestRate = 16;
+/// Before the point as many digits as a number keeps, or it would be shown as
+/// another one than was typed.
+static constexpr QStringView rateText = u"[0-9]{0,15}([.,][0-9.,]*)?";
 
 RateDelegate::RateDelegate(Messages &messages, QObject *parent)
     : OrderCellDelegate(parent), m_messages(messages)
@@ -23,9 +24,8 @@ QWidget *RateDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem 
     txtEdit->setObjectName(u"txtEdit"_s);
     txtEdit->setAccessibleName(cell.data(Qt::AccessibleTextRole).toString());
     txtEdit->setAlignment(Qt::AlignRight);
-    txtEdit->setMaxLength(longestRate);
     txtEdit->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(u"[0-9.,]*"_s), txtEdit));
+        new QRegularExpressionValidator(QRegularExpression(rateText.toString()), txtEdit));
     keepNumeric(*txtEdit, m_messages);
     return txtEdit;
 }

@@ -7,6 +7,13 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+/// The currencies stand in a fixed column, which the cursor does not enter.
+static QModelIndex besideFixed(const QModelIndex &cell)
+{
+    return cell.column() == KurModel::currencyColumn ? cell.siblingAtColumn(KurModel::sellingColumn)
+                                                     : cell;
+}
+
 RateGrid::RateGrid(QWidget *parent) : QTableView(parent)
 {
     setEditTriggers(EditKeyPressed | AnyKeyPressed);
@@ -17,7 +24,10 @@ RateGrid::RateGrid(QWidget *parent) : QTableView(parent)
     horizontalHeader()->setHighlightSections(false);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 10);
-    connect(this, &QTableView::clicked, this, &RateGrid::editRate);
+    connect(this, &QTableView::clicked, this, [this](const QModelIndex &cell) {
+        setCurrentIndex(besideFixed(cell));
+        editRate(cell);
+    });
 }
 
 void RateGrid::setMessages(Messages &messages)
@@ -59,6 +69,32 @@ void RateGrid::keyPressEvent(QKeyEvent *event)
         QTableView::keyPressEvent(event);
 }
 
+QModelIndex RateGrid::moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers)
+{
+    return besideFixed(QTableView::moveCursor(action, modifiers));
+}
+
+/// Tab walks the rates also while no editor is open, and leaves at their ends.
+bool RateGrid::focusNextPrevChild(bool next)
+{
+    const int target = currentPlace() + (next ? 1 : -1);
+    if (!hasFocus() || target < 0 || target >= model()->rowCount() * ratesPerRow())
+        return QTableView::focusNextPrevChild(next);
+    goToCell(target);
+    return true;
+}
+
+int RateGrid::ratesPerRow() const
+{
+    return model()->columnCount() - KurModel::sellingColumn;
+}
+
+int RateGrid::currentPlace() const
+{
+    const QModelIndex cell = currentIndex();
+    return cell.row() * ratesPerRow() + cell.column() - KurModel::sellingColumn;
+}
+
 void RateGrid::editRate(const QModelIndex &cell)
 {
     if (cell.flags().testFlag(Qt::ItemIsEditable))
@@ -68,8 +104,8 @@ void RateGrid::editRate(const QModelIndex &cell)
 void RateGrid::goOn(int key)
 {
     const QModelIndex cell = currentIndex();
-    const int rates = model()->columnCount() - KurModel::sellingColumn;
-    const int place = cell.row() * rates + cell.column() - KurModel::sellingColumn;
+    const int rates = ratesPerRow();
+    const int place = currentPlace();
     if (key == Qt::Key_Tab)
         goToCell(place + 1);
     else if (key == Qt::Key_Backtab)
@@ -96,7 +132,7 @@ void RateGrid::goDown()
 /// To a rate by its place in reading order.
 void RateGrid::goToCell(int place)
 {
-    const int rates = model()->columnCount() - KurModel::sellingColumn;
+    const int rates = ratesPerRow();
     if (place < model()->rowCount() * rates)
         setCurrentIndex(model()->index(place / rates, KurModel::sellingColumn + place % rates));
     else

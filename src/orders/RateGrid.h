@@ -29,8 +29,12 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    bool focusNextPrevChild(bool next) override;
 
 private:
+    int ratesPerRow() const;
+    int currentPlace() const; ///< of the current rate in reading order
     void editRate(const QModelIndex &cell);
     void goOn(int key);
     void goDown();

@@ -203,6 +203,27 @@ void GirisKurTest::movesBetweenCells()
     QCOMPARE(s.shown(), QStringList({u"USD 6.0000 4.0000"_s, u"EUR 3.0000 5.0000"_s, u"TL  "_s,
                                      u"GBP 7.0000 8.0000"_s}));
     QCOMPARE(QApplication::focusWidget(), s.control(u"Kayit_Cmd"_s));
+
+    // Tab passes rates by also where nothing is typed, and leaves at the ends.
+    s.key(Qt::Key_Backtab);
+    QCOMPARE(QApplication::focusWidget(), s.grid());
+    s.grid()->setCurrentIndex(s.grid()->model()->index(2, 2));
+    s.key(Qt::Key_Tab);
+    QCOMPARE(s.cursor(), std::pair(3, 1));
+    s.key(Qt::Key_Backtab);
+    QCOMPARE(s.cursor(), std::pair(2, 2));
+    for (int i = 0; i < 3; ++i)
+        s.key(Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), s.control(u"Kayit_Cmd"_s));
+    // The cursor stays out of the currencies.
+    s.grid()->setFocus();
+    s.grid()->setCurrentIndex(s.grid()->model()->index(1, 1));
+    s.key(Qt::Key_Left);
+    QCOMPARE(s.cursor(), std::pair(1, 1));
+    QTest::mouseClick(s.grid()->viewport(), Qt::LeftButton, {},
+                      s.grid()->visualRect(s.grid()->model()->index(2, 0)).center());
+    QCOMPARE(typeAnd(u"9"_s, Qt::Key_Return), std::pair(3, 1));
+    QCOMPARE(s.shown()[2], u"TL 9.0000 "_s);
 }
 
 void GirisKurTest::refusesWhatIsNoDate()
@@ -354,7 +375,13 @@ void GirisKurTest::takesOnlyNumbers()
     s.messages.expect({.text = u"SAYISAL DEGER GIRIN..."_s, .icon = MessageIcon::Critical});
     s.enter(u"1.2.3"_s);
     QCOMPARE(s.shown()[1], u"EUR 1.2300"_s);
+    // Opened and left again, a long rate is what it was.
+    s.enter(u"99999999999999999"_s);
     s.key(Qt::Key_Up);
+    s.key(Qt::Key_F2);
+    s.key(Qt::Key_Up);
+    QCOMPARE(s.shown()[2], u"TL 999999999999999.0000"_s);
+    QCOMPARE(s.cursor(), std::pair(1, 1));
     s.type(u"5"_s);
     s.key(Qt::Key_Escape);
     QCOMPARE(s.shown()[1], u"EUR 1.2300"_s);
