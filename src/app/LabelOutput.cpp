@@ -8,8 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int labelHead = 203; ///< of the usual label printer
-constexpr int coarsest = 100;  ///< below it the texts cannot be read
+constexpr int coarsest = 100; ///< below it the texts cannot be read
 constexpr int finest = 2400;
 
 } // namespace
@@ -30,7 +29,7 @@ void addLabelOutput(QCommandLineParser &parser)
 
 LabelOutput labelOutput(const QCommandLineParser &parser)
 {
-    LabelOutput output{parser.value(u"pdf"_s), parser.value(u"png"_s), labelHead};
+    LabelOutput output{parser.value(u"pdf"_s), parser.value(u"png"_s), usualHead};
     if (output.pdf.isEmpty() == output.png.isEmpty())
         throw WrongUsage();
     if (!parser.isSet(u"dpi"_s)) {

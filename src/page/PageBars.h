@@ -20,6 +20,9 @@ struct PageBars
     Twips room;
 };
 
+/// Dots to the inch of the usual label printer.
+constexpr int usualHead = 203;
+
 /// Paints the bars, in twips, from the point (0,0) of the painter's present
 /// scale. Their left edge comes to lie on the nearest dot; light modules are
 /// painted white.

@@ -1,5 +1,6 @@
 #include "PrintDocument.h"
 
+#include <algorithm>
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QPainter>
@@ -149,6 +150,21 @@ void PrintDocument::frame(PagePoint at, Twips width, Twips height)
     line({right, at.y}, {right, bottom});
     line({right, bottom}, {at.x, bottom});
     line({at.x, bottom}, at);
+}
+
+bool PrintDocument::hasBars() const
+{
+    const auto isBars = [](const PageItem &item) {
+        return std::holds_alternative<PageSymbol>(item);
+    };
+    return std::any_of(m_pages.begin(), m_pages.end(), [&](const PrintPage &page) {
+        return std::any_of(page.items.begin(), page.items.end(), isBars);
+    });
+}
+
+int usualDotsPerInch(const PrintDocument &document)
+{
+    return document.hasBars() ? usualHead : twipsPerInch;
 }
 
 void PrintDocument::bars(PagePoint at, const PageBars &bars)

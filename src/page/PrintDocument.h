@@ -91,6 +91,9 @@ public:
     Twips width() const { return m_width; }
     Twips height() const { return m_height; }
     const QList<PrintPage> &pages() const { return m_pages; }
+    /// Whether a bar code stands on it. Such a document goes to every device in
+    /// the device's own dots: scaled ones would be no whole dots any more.
+    bool hasBars() const;
 
 private:
     void add(const PageItem &item);
@@ -117,10 +120,16 @@ enum class PageInk { Smooth, Dots };
 void paintPage(QPainter &painter, const PrintPage &page, double dotsPerInch,
                PageInk ink = PageInk::Smooth);
 
+/// The grid of dots on which a document is drawn when no printer says which:
+/// bar codes on that of the usual label printer, all else in twips.
+int usualDotsPerInch(const PrintDocument &document);
+
 /// Writes all pages to a PDF file, on a grid of so many dots to the inch. Throws
 /// std::runtime_error with a Turkish text when the file cannot be written; what
 /// was at the path stays then.
-void writePdf(const PrintDocument &document, const QString &path, int dotsPerInch = 1440);
+void writePdf(const PrintDocument &document, const QString &path, int dotsPerInch);
+/// The same on the document's usual grid.
+void writePdf(const PrintDocument &document, const QString &path);
 
 /// A page as a printer of that resolution sets its dots, black and white.
 QImage pageDots(const PrintDocument &document, const PrintPage &page, int dotsPerInch);

@@ -84,6 +84,11 @@ void writePdf(const PrintDocument &document, const QString &path, int dotsPerInc
     file.write(paintPdf(document, dotsPerInch));
 }
 
+void writePdf(const PrintDocument &document, const QString &path)
+{
+    writePdf(document, path, usualDotsPerInch(document));
+}
+
 QImage pageDots(const PrintDocument &document, const PrintPage &page, int dotsPerInch)
 {
     const QSizeF paper(document.width().pixels(dotsPerInch), document.height().pixels(dotsPerInch));

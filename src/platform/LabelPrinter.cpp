@@ -17,5 +17,5 @@ void InstalledLabelPrinter::print(const PrintDocument &document, const QString &
         throw std::runtime_error(
             u"Etiket yazdırılamadı: kurulu yazıcı bulunamadı."_s.toStdString());
     }
-    m_printers.printDots(document, name);
+    m_printers.print(document, name);
 }

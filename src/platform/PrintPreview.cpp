@@ -56,6 +56,8 @@ PrintPreview::PrintPreview(const PrintDocument &document, Printers &printers, Me
     setWindowTitle(document.title());
     setWindowFlag(Qt::WindowMaximizeButtonHint);
     m_paper->setOutputFormat(QPrinter::PdfFormat);
+    if (document.hasBars())
+        m_paper->setResolution(usualHead);
     prepare(*m_paper, document);
 
     m_pages = new QPrintPreviewWidget(m_paper.get());

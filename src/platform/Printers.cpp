@@ -97,31 +97,27 @@ void Printers::print(const PrintDocument &document) const
     const QString name = current();
     if (name.isEmpty())
         refuse(u"Kurulu yazıcı bulunamadı. Belge PDF olarak kaydedilebilir."_s);
-    send(*open(name), document, name);
+    print(document, name);
 }
 
-void Printers::printDots(const PrintDocument &document, const QString &name) const
+void Printers::print(const PrintDocument &document, const QString &name) const
 {
     const std::unique_ptr<QPrinter> printer = open(name);
-    printer->setResolution(ownResolution(printer->supportedResolutions()));
-    send(*printer, document, name);
-}
-
-void Printers::send(QPrinter &printer, const PrintDocument &document, const QString &name) const
-{
-    prepare(printer, document);
+    if (document.hasBars())
+        printer->setResolution(ownResolution(printer->supportedResolutions()));
+    prepare(*printer, document);
     QPainter painter;
-    if (!printer.isValid() || !painter.begin(&printer))
+    if (!printer->isValid() || !painter.begin(printer.get()))
         refusePrinter(name);
-    const double dotsPerInch = printer.resolution();
+    const double dotsPerInch = printer->resolution();
     const PagePoint moved = offset(name);
     painter.translate(moved.x.pixels(dotsPerInch), moved.y.pixels(dotsPerInch));
     for (qsizetype i = 0; i < document.pages().size(); ++i) {
-        if (i > 0 && !printer.newPage())
+        if (i > 0 && !printer->newPage())
             refusePrinter(name);
         paintPage(painter, document.pages()[i], dotsPerInch);
     }
-    if (!painter.end() || printer.printerState() == QPrinter::Error)
+    if (!painter.end() || printer->printerState() == QPrinter::Error)
         refusePrinter(name);
 }
 
@@ -132,11 +128,10 @@ void Printers::send(QPrinter &printer, const PrintDocument &document, const QStr
 int ownResolution(const QList<int> &offered)
 {
     constexpr int coarsestHead = 200;
-    constexpr int commonHead = 203;
     QList<int> heads;
     std::copy_if(offered.begin(), offered.end(), std::back_inserter(heads),
                  [](int dotsPerInch) { return dotsPerInch >= coarsestHead; });
-    return heads.isEmpty() ? commonHead : *std::min_element(heads.begin(), heads.end());
+    return heads.isEmpty() ? usualHead : *std::min_element(heads.begin(), heads.end());
 }
 
 void prepare(QPrinter &printer, const PrintDocument &document)

@@ -37,16 +37,13 @@ public:
     /// Prints on the current printer. Throws std::runtime_error with a Turkish
     /// text when there is none or it fails.
     void print(const PrintDocument &document) const;
-    /// Prints on the printer of that name, in the printer's own dots, so that
-    /// bar codes come out as they are laid.
-    void printDots(const PrintDocument &document, const QString &name) const;
+    /// Prints on the printer of that name; throws in the same way.
+    void print(const PrintDocument &document, const QString &name) const;
 
 protected:
     virtual std::unique_ptr<QPrinter> open(const QString &name) const;
 
 private:
-    void send(QPrinter &printer, const PrintDocument &document, const QString &name) const;
-
     QSettings &m_settings;
     QString m_chosen;
 };

@@ -1,4 +1,5 @@
 #include "PrintPreview.h"
+#include "BarcodeReader.h"
 #include "LabelPrinter.h"
 #include "PdfReader.h"
 #include "Printers.h"
@@ -23,6 +24,14 @@ PrintDocument threePages()
         document.setFont({u"Courier New Tur"_s, 12});
         document.text({1440_tw, 1440_tw}, u"Sayfa %1"_s.arg(page));
     }
+    return document;
+}
+
+/// A small label with a symbol at a place between the dots of any printer.
+PrintDocument barCode()
+{
+    PrintDocument document(u"Etiket"_s, Twips(2880), Twips(720));
+    document.bars({101_tw, 103_tw}, {u"XOXXOOXOXXXOX"_s, 10_tw, 350_tw, 2000_tw});
     return document;
 }
 
@@ -192,7 +201,30 @@ private Q_SLOTS:
                                  InstalledLabelPrinter(none).print(threePages(), u"Zebra"_s));
     }
 
-    void aLabelIsPrintedInThePrintersOwnDots()
+    void barCodesAreWholeDotsOnEveryWayOut()
+    {
+        FilePrinters printers(*m_settings, {u"Zebra"_s}, m_folder->path());
+        printers.setOffset(u"Zebra"_s, {Twips(3), Twips(5)});
+        PrintPreview preview(barCode(), printers, *m_messages, nullptr);
+        const QString saved = m_folder->filePath(u"etiket.pdf"_s);
+        preview.setPdfChooser([&](QWidget *, const QString &) { return saved; });
+        open(preview);
+        m_messages->expect(u"PDF dosyası kaydedildi:\n"_s + QDir::toNativeSeparators(saved));
+        QTest::keyClick(&preview, Qt::Key_S, Qt::ControlModifier);
+        QTest::keyClick(&preview, Qt::Key_P, Qt::ControlModifier);
+        QVERIFY(!preview.isVisible());
+        m_messages->verify();
+
+        const QList<int> twoDotsAModule{2, 2, 4, 4, 2, 2, 6, 2, 2};
+        const int row = 203 * 200 / 1440;
+        const QString printed = m_folder->filePath(u"Zebra.pdf"_s);
+        QCOMPARE(runsOfDots(pdfDots(saved, 203), row), twoDotsAModule);
+        QCOMPARE(runsOfDots(pdfDots(printed, 203), row), twoDotsAModule);
+        InstalledLabelPrinter(printers).print(barCode(), u"Zebra"_s);
+        QCOMPARE(runsOfDots(pdfDots(printed, 203), row), twoDotsAModule);
+    }
+
+    void thePrintersOwnDotsAreThoseOfItsHead()
     {
         QCOMPARE(ownResolution({203}), 203);
         QCOMPARE(ownResolution({72, 96, 300, 600, 1200}), 300);

@@ -54,6 +54,12 @@ PdfWord pdfWord(const QString &path, const QString &text)
     return {};
 }
 
+QImage pdfDots(const QString &path, int dotsPerInch)
+{
+    return QImage::fromData(output(u"pdftoppm"_s, {u"-r"_s, QString::number(dotsPerInch),
+                                                   u"-mono"_s, u"-singlefile"_s, path}));
+}
+
 QStringList pdfFonts(const QString &path)
 {
     return tableRows(output(u"pdffonts"_s, {path}));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QList>
 #include <QString>
 
@@ -16,6 +17,8 @@ struct PdfWord
 QList<PdfWord> pdfWords(const QString &path);
 /// The first word that reads so; an empty one when there is none.
 PdfWord pdfWord(const QString &path, const QString &text);
+/// The first page in black and white dots, so many to the inch.
+QImage pdfDots(const QString &path, int dotsPerInch);
 /// The fonts as pdffonts lists them, one line each.
 QStringList pdfFonts(const QString &path);
 /// The pictures as pdfimages lists them, one line for each place on a page.
