@@ -2,6 +2,7 @@
 #include "Oturum.h"
 #include "PdfReader.h"
 #include "SampleCompany.h"
+#include "Schema.h"
 #include "SiparisStore.h"
 #include "SlipLines.h"
 #include "SlipReading.h"
@@ -259,6 +260,22 @@ private Q_SLOTS:
         const PdfWord model = pdfWord(pdf, u"A75"_s);
         QCOMPARE(qRound(model.x), 550 + 16 * 96);
         QCOMPARE(qRound(model.y), 2650);
+
+        // A registry beside the database knows where its pictures are.
+        QVERIFY(QDir(folder.path()).mkdir(u"resim"_s));
+        QVERIFY(QFile::rename(folder.filePath(u"A75.jpg"_s), folder.filePath(u"resim/A75.jpg"_s)));
+        {
+            const auto registry = createRegistry(folder.filePath(u"sirket.kuyum"_s));
+            Recordset companies = registry->table(u"SirketKayit"_s);
+            companies.addNew();
+            companies.set(u"turkod"_s, u"048"_s);
+            companies.set(u"Srkkod"_s, 1);
+            companies.set(u"DataYolu"_s, u"c:\\database\\ORNEK.mdb"_s);
+            companies.set(u"ResimYolu"_s, u"c:\\database\\resim"_s);
+            companies.update();
+        }
+        QCOMPARE(run(words + QStringList{u"7"_s}), (Outcome{0, {}}));
+        QCOMPARE(pdfImages(pdf).size(), 1);
     }
 
 private:
