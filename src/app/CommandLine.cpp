@@ -16,7 +16,7 @@ constexpr Command commands[] = {
      fisCommand, true},
     {u"etiket",
      u"kuyum etiket VERITABANI MODEL URUNTIPI --pdf DOSYA [--dpi N] | --png DOSYA --dpi N "
-     "[--ayar METIN] [--aciklama METIN] [--tip ETIKETTIPI]",
+     "[--ayar METIN] [--aciklama METIN] [--tip ETIKETTIPI [--alan FRM=METIN]...]",
      etiketCommand, true},
     {u"barkod",
      u"kuyum barkod ean13|code39|code128|2of5|codabar METIN --pdf DOSYA [--dpi N] | --png DOSYA "

@@ -43,6 +43,43 @@ BarkodTipi findTemplate(const EtiketStore &store, const QString &name)
     return *found;
 }
 
+/// What the database does not tell: the company's name stands in the registry,
+/// prices and the like nowhere.
+QStringList givenPlaceholders()
+{
+    QStringList placeholders{u"%FRM%"_s};
+    for (const SorulanAlan &asked : sorulanAlanlar())
+        placeholders.append(asked.alan);
+    return placeholders;
+}
+
+/// The values of --alan FRM=METIN, by placeholder.
+QMap<QString, QString> readValues(const QStringList &words)
+{
+    QMap<QString, QString> values;
+    for (const QString &word : words) {
+        const QString placeholder = u'%' + word.section(u'=', 0, 0).toUpper() + u'%';
+        if (!word.contains(u'=') || !givenPlaceholders().contains(placeholder))
+            throw WrongUsage();
+        values[placeholder] = word.section(u'=', 1);
+    }
+    return values;
+}
+
+/// A label on which a price is missing is worse than none.
+PrintDocument templateLabel(const Etiket &etiket, const BarkodTipi &tip,
+                            const QMap<QString, QString> &values)
+{
+    for (const QString &placeholder : givenPlaceholders()) {
+        if (uses(tip, placeholder) && !values.contains(placeholder)) {
+            refuse(
+                u"%1 etiket tipi %2 alanını basar; değeri --alan %3=METIN ile verilmelidir."_s.arg(
+                    tip.BarkodTip_Ad, placeholder, placeholder.chopped(1).sliced(1)));
+        }
+    }
+    return sablonBelgesi(etiket, tip, {values.value(u"%FRM%"_s), {}, values, {}});
+}
+
 } // namespace
 
 /// kuyum etiket DATABASE MODEL TYPE --pdf FILE | --png FILE --dpi N: a
@@ -54,12 +91,14 @@ int etiketCommand(const QStringList &arguments)
     const QCommandLineOption ayar(u"ayar"_s, {}, u"METIN"_s);
     const QCommandLineOption aciklama(u"aciklama"_s, {}, u"METIN"_s);
     const QCommandLineOption tip(u"tip"_s, {}, u"ETIKETTIPI"_s);
-    parser.addOptions({ayar, aciklama, tip});
+    const QCommandLineOption alan(u"alan"_s, {}, u"ALAN=METIN"_s);
+    parser.addOptions({ayar, aciklama, tip, alan});
     if (!parser.parse(QStringList{u"etiket"_s} + arguments))
         throw WrongUsage();
     const QStringList words = parser.positionalArguments();
-    if (words.size() != 3)
+    if (words.size() != 3 || (parser.isSet(alan) && !parser.isSet(tip)))
         throw WrongUsage();
+    const QMap<QString, QString> values = readValues(parser.values(alan));
     const LabelOutput output = labelOutput(parser);
 
     ReadableDatabase source = openForReading(words[0]);
@@ -71,7 +110,7 @@ int etiketCommand(const QStringList &arguments)
         parser.isSet(ayar) ? parser.value(ayar) : formatNumber(store.ayarlar().sabitayar, u"#0");
     etiket.Aciklama = parser.value(aciklama);
     output.write(parser.isSet(tip)
-                     ? sablonBelgesi(etiket, findTemplate(store, parser.value(tip)), {})
+                     ? templateLabel(etiket, findTemplate(store, parser.value(tip)), values)
                      : etiketBelgesi(etiket));
     return 0;
 }

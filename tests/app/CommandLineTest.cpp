@@ -74,6 +74,9 @@ private Q_SLOTS:
         QTest::newRow("dots of no size") << label + QStringList{u"--png"_s, u"x.png"_s};
         QTest::newRow("dots too coarse")
             << label + QStringList{u"--png"_s, u"x.png"_s, u"--dpi"_s, u"50"_s};
+        QTest::newRow("a value of no field")
+            << label + QStringList{u"--pdf"_s, u"x.pdf"_s,  u"--tip"_s,
+                                   u"Küçük"_s, u"--alan"_s, u"YOK=1"_s};
         QTest::newRow("an unknown symbology")
             << QStringList{u"barkod"_s, u"qr"_s, u"1"_s, u"--pdf"_s, u"x.pdf"_s};
         QTest::newRow("an empty folder name") << QStringList{u"demo"_s, QString()};
@@ -187,6 +190,26 @@ private Q_SLOTS:
                  qPrintable(unknown.error));
         QVERIFY(!QFile::exists(png));
         QCOMPARE(label(u"A75"_s, u"Saat"_s).exitCode, 1);
+    }
+
+    void aLabelTypeIsPrintedWithAllItsValuesOrNotAtAll()
+    {
+        const QString database = m_folder.filePath(u"etiketli.kuyum"_s);
+        std::unique_ptr<Database> db = makeSampleCompany(database);
+        db->execute(u"Insert Into Barkodtip (BarkodTip_ID, BarkodTip_Ad) Values (1, 'Küçük')"_s);
+        db->execute(u"Insert Into BarkodtipAlanlar (btipno, alanno, alanadi, [Check], pic_Left) "
+                    "Values (1, 1, '%FRM% %TFYT%', 1, 20)"_s);
+        db.reset();
+        const QString pdf = m_folder.filePath(u"tip.pdf"_s);
+        QStringList words{u"etiket"_s, database,   u"A75"_s,   u"2"_s,      u"--pdf"_s,
+                          pdf,         u"--tip"_s, u"küçük"_s, u"--alan"_s, u"frm=Atölye"_s};
+        const Outcome refused = kuyum(words);
+        QCOMPARE(refused.exitCode, 1);
+        QVERIFY2(refused.error.contains(u"%TFYT%"_s), qPrintable(refused.error));
+        QVERIFY(!QFile::exists(pdf));
+        words += {u"--alan"_s, u"TFYT=1=500"_s};
+        QCOMPARE(kuyum(words).exitCode, 0);
+        QVERIFY(pdfWord(pdf, u"Atölye"_s).page == 1 && pdfWord(pdf, u"1=500"_s).page == 1);
     }
 
     void aBarCodeIsDrawnOfAText()
