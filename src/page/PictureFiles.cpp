@@ -18,6 +18,9 @@ namespace {
 /// More than the best cameras give; a larger one would take seconds and
 /// gigabytes to decode.
 constexpr qint64 mostPixels = 64'000'000;
+/// Other files than JPEG are decoded at their full size, which must stay below
+/// the reader's limit of 128 MB.
+constexpr qint64 mostPixelsDecodedWhole = 32'000'000;
 
 QString moldFolder()
 {
@@ -145,9 +148,9 @@ QSize fitted(QSize size, QSize box)
     return fits ? size : size.scaled(box, Qt::KeepAspectRatio).expandedTo({1, 1});
 }
 
-bool isTooLarge(QSize size)
+bool isTooLarge(QSize size, qint64 most = mostPixels)
 {
-    return qint64(size.width()) * size.height() > mostPixels;
+    return qint64(size.width()) * size.height() > most;
 }
 
 QString tooLargeText(QSize size)
@@ -238,9 +241,10 @@ PictureResult loadPicture(const QString &path, QSize maxSize)
     const QSize size = reader.size();
     if (!size.isValid() || size.isEmpty())
         return refused(path, u"Resim dosyası bozuk."_s);
-    if (isTooLarge(size))
+    const bool isJpeg = reader.format().startsWith("jp");
+    if (isTooLarge(size, isJpeg ? mostPixels : mostPixelsDecodedWhole))
         return refused(path, tooLargeText(size));
-    if (reader.format().startsWith("jp") && !isCompleteJpeg(path))
+    if (isJpeg && !isCompleteJpeg(path))
         return refused(path, u"Resim dosyası eksik, sonu kesilmiş."_s);
 
     reader.setAutoTransform(true);

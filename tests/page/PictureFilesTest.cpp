@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QByteArray jpeg(int width, int height)
+QByteArray encoded(int width, int height, const char *format)
 {
     QImage image(width, height, QImage::Format_RGB32);
     for (int y = 0; y < height; ++y) {
@@ -22,8 +22,13 @@ QByteArray jpeg(int width, int height)
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "JPEG");
+    image.save(&buffer, format);
     return bytes;
+}
+
+QByteArray jpeg(int width, int height)
+{
+    return encoded(width, height, "JPEG");
 }
 
 /// The same picture with a camera's note that it must be turned (EXIF tag 0x112).
@@ -137,6 +142,10 @@ private Q_SLOTS:
         QTest::newRow("half") << whole.first(whole.size() / 2)
                               << u"Resim dosyası eksik, sonu kesilmiş."_s;
         QTest::newRow("last byte") << whole.chopped(1) << u"Resim dosyası eksik, sonu kesilmiş."_s;
+        QByteArray unpacked = encoded(8, 8, "BMP");
+        unpacked.replace(18, 8, QByteArray("\x70\x17\0\0\x70\x17\0\0", 8)); // 6000 x 6000
+        QTest::newRow("more than is decoded")
+            << unpacked << u"Resim çok büyük (6000 x 6000 nokta)."_s;
         QTest::newRow("huge") << huge << u"Resim çok büyük (20000 x 10000 nokta)."_s;
     }
     void refusesWhatIsNoWholePicture()
