@@ -5,21 +5,19 @@
 namespace {
 
 constexpr int pixelsPerUnit = 2;
-/// In units: the symbol with its right quiet zone, and its captions below.
-constexpr QSize surfaceSize(112, 46);
 constexpr int margin = 8; ///< of white around it, in pixels
 
 } // namespace
 
 BarkodKutusu::BarkodKutusu(QWidget *parent)
-    : QWidget(parent), m_surface(surfaceSize, qRound(pixelsPerUnit * devicePixelRatioF()))
+    : QWidget(parent), m_surface(symbolUnits, qRound(pixelsPerUnit * devicePixelRatioF()))
 {
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
 
 QSize BarkodKutusu::sizeHint() const
 {
-    return surfaceSize * pixelsPerUnit + QSize(2 * margin, 2 * margin);
+    return symbolUnits * pixelsPerUnit + QSize(2 * margin, 2 * margin);
 }
 
 void BarkodKutusu::draw(const QString &number)
@@ -36,7 +34,7 @@ void BarkodKutusu::paintEvent(QPaintEvent *)
         return;
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
-    const QSize size = surfaceSize * pixelsPerUnit;
+    const QSize size = symbolUnits * pixelsPerUnit;
     const QPoint corner((width() - size.width()) / 2, (height() - size.height()) / 2);
     painter.drawImage(QRect(corner, size), m_surface.image());
 }

@@ -4,6 +4,10 @@
 
 #include <QImage>
 
+/// What a symbol takes with its right quiet zone and the captions below, at the
+/// sizes that are drawn unless others are given.
+constexpr QSize symbolUnits(112, 46);
+
 /// A surface that symbols are drawn on, measured in units of so many dots each.
 class BarkodYuzeyi
 {

@@ -77,16 +77,16 @@ bool MalzemeDelegate::eventFilter(QObject *watched, QEvent *event)
     if (watched != m_editor)
         return false;
     if (event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent *>(event)->key();
-        if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Tab) {
+        const auto &press = *static_cast<QKeyEvent *>(event);
+        const bool enters = isEnter(press) || press.key() == Qt::Key_Tab;
+        const bool leaves = press.key() == Qt::Key_Escape;
+        if (press.isAutoRepeat() && (enters || leaves))
+            return true; // still held from what opened the editor
+        if (enters)
             Q_EMIT entered();
-            return true;
-        }
-        if (key == Qt::Key_Escape) {
+        else if (leaves)
             Q_EMIT abandoned();
-            return true;
-        }
-        return false;
+        return enters || leaves;
     }
     if (event->type() == QEvent::FocusOut) {
         // A message, the list of codes or the editor's own entries come back to it.

@@ -16,6 +16,12 @@ void MalzemeModel::fill(const QList<ModelSatiri> &satirlar)
     endResetModel();
 }
 
+int MalzemeModel::danglingCount() const
+{
+    return int(std::count_if(m_rows.begin(), m_rows.end(),
+                             [](const ModelSatiri &row) { return row.isDangling(); }));
+}
+
 void MalzemeModel::change(int row, const ModelSatiri &value)
 {
     m_rows[row] = value;

@@ -24,6 +24,9 @@ public:
     const QList<ModelSatiri> &satirlar() const { return m_rows; }
     const ModelSatiri &rowAt(int row) const { return m_rows[row]; }
 
+    /// How many rows are of stones or molds that were deleted.
+    int danglingCount() const;
+
     /// Another kind empties code and count.
     void setTip(int row, MalzemeTipi tip);
     /// A row whose kind was not said gets the one that the code was found as.

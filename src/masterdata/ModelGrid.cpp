@@ -1,5 +1,6 @@
 #include "ModelGrid.h"
 
+#include "EntryControls.h"
 #include "MalzemeDelegate.h"
 #include "MalzemeModel.h"
 
@@ -53,16 +54,18 @@ void ModelGrid::SatirAc()
     setFocus();
 }
 
+bool ModelGrid::isEditBegun() const
+{
+    return m_delegate->isEditing() &&
+           m_delegate->text() != m_delegate->cell().data(Qt::EditRole).toString();
+}
+
 bool ModelGrid::finishEdit()
 {
     if (m_taking)
         return false;
-    if (!m_delegate->isEditing())
-        return true;
-    const QModelIndex cell = m_delegate->cell();
-    const bool changed = m_delegate->text() != cell.data(Qt::EditRole).toString();
     // An editor merely opened does not ask for a list.
-    if (!changed) {
+    if (!isEditBegun()) {
         abandonEdit();
         return true;
     }
@@ -135,8 +138,12 @@ void ModelGrid::keyPressEvent(QKeyEvent *event)
 {
     const QModelIndex cell = currentIndex();
     const int key = event->key();
-    const bool opens = key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_F2;
-    const bool ours = opens || key == Qt::Key_Insert || key == Qt::Key_Delete;
+    const bool changesRows = key == Qt::Key_Insert || key == Qt::Key_Delete;
+    // Held down, Enter would walk round and Delete take one row after the other.
+    if (event->isAutoRepeat() && (isEnter(*event) || changesRows))
+        return;
+    const bool opens = isEnter(*event) || key == Qt::Key_F2;
+    const bool ours = opens || changesRows;
     // An editor that was left with a code not yet taken is finished first.
     if (ours && !finishEdit())
         return;

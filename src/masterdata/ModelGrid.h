@@ -25,6 +25,8 @@ public:
     /// How many characters the fields of the codes take; 0 is no limit.
     void setCodeLimit(int characters);
 
+    /// Whether an open editor holds something else than its cell.
+    bool isEditBegun() const;
     /// Takes what an open editor holds and closes it; false when that was refused.
     bool finishEdit();
     /// Closes an open editor and leaves the cell as it was.

@@ -58,10 +58,15 @@ std::optional<Model> ModelStore::ModelBul(const QString &model, qint32 TipID) co
         keyCondition(model, TipID));
     if (!Kayit.next())
         return std::nullopt;
-    Model found{model, TipID, Kayit.number(u"M_Miktar"), {}, 0};
+    // As it is stored: typed in another case it is still not renamed.
+    Model found{Kayit.text(u"Model"),
+                TipID,
+                Kayit.number(u"M_Miktar"),
+                {},
+                qint32(Kayit.integer(u"Model_ID"))};
     QList<ModelSatiri> stored;
     do {
-        found.Model_ID = qint32(Kayit.integer(u"Model_ID"));
+        found.Model_ID = std::max(found.Model_ID, qint32(Kayit.integer(u"Model_ID")));
         stored.append({Kayit.integer(u"M_Tip") == 0 ? MalzemeTipi::Tas : MalzemeTipi::YariMamul,
                        {},
                        qint32(Kayit.integer(u"M_Kod")),
@@ -71,25 +76,50 @@ std::optional<Model> ModelStore::ModelBul(const QString &model, qint32 TipID) co
     return found;
 }
 
+std::optional<qint32> ModelStore::sonKayit(const QString &model, qint32 TipID) const
+{
+    Recordset Kayit = m_oturum->sorgula(u"Select Model_ID From Model "_s +
+                                        keyCondition(model, TipID) + u" Order by Model_ID"_s);
+    std::optional<qint32> last;
+    while (Kayit.next())
+        last = qint32(Kayit.integer(u"Model_ID"));
+    return last;
+}
+
 QList<ModelSatiri> ModelStore::ModelDoldur(const QList<ModelSatiri> &stored) const
 {
+    const QHash<qint32, QString> stones = kodlar(stored, MalzemeTipi::Tas);
+    const QHash<qint32, QString> molds = kodlar(stored, MalzemeTipi::YariMamul);
     QList<ModelSatiri> rows;
     for (ModelSatiri row : stored) {
         if (row.M_Kod == 0)
             continue;
-        row.Kod = kodu(row);
+        row.Kod = (row.tip == MalzemeTipi::Tas ? stones : molds).value(row.M_Kod);
         rows.append(row);
     }
     return rows;
 }
 
-QString ModelStore::kodu(const ModelSatiri &row) const
+QHash<qint32, QString> ModelStore::kodlar(const QList<ModelSatiri> &stored, MalzemeTipi tip) const
 {
-    const bool stone = row.tip == MalzemeTipi::Tas;
-    Recordset Kayit = m_oturum->sorgula((stone ? u"Select * From Tas where tasID = "_s
-                                               : u"Select * From Kalip where KalipID = "_s) +
-                                        sqlNumber(row.M_Kod));
-    return Kayit.next() ? Kayit.text(stone ? u"Taskodu" : u"KalipKodu") : QString();
+    QStringList ids;
+    for (const ModelSatiri &row : stored) {
+        if (row.tip == tip && row.M_Kod != 0)
+            ids.append(sqlNumber(row.M_Kod));
+    }
+    QHash<qint32, QString> codes;
+    if (ids.isEmpty())
+        return codes;
+    ids.removeDuplicates();
+    const bool stone = tip == MalzemeTipi::Tas;
+    Recordset Kayit = m_oturum->sorgula((stone ? u"Select * From Tas where tasID in ("_s
+                                               : u"Select * From Kalip where KalipID in ("_s) +
+                                        ids.join(u", "_s) + u')');
+    while (Kayit.next()) {
+        codes.insert(qint32(Kayit.integer(stone ? u"TasID" : u"KalipID")),
+                     Kayit.text(stone ? u"Taskodu" : u"KalipKodu"));
+    }
+    return codes;
 }
 
 std::optional<Malzeme> ModelStore::malzemeBul(MalzemeTipi tip, const QString &kod) const

@@ -23,6 +23,8 @@ public:
 
     /// The model with its materials; nothing when there is none of that type.
     std::optional<Model> ModelBul(const QString &model, qint32 TipID) const;
+    /// The model's last record; nothing when there is none of that type.
+    std::optional<qint32> sonKayit(const QString &model, qint32 TipID) const;
     /// The stone or mold of that code.
     std::optional<Malzeme> malzemeBul(MalzemeTipi tip, const QString &kod) const;
     /// The short name of the product type under which the model is stored;
@@ -37,7 +39,9 @@ public:
 
 private:
     QList<ModelSatiri> ModelDoldur(const QList<ModelSatiri> &stored) const;
-    QString kodu(const ModelSatiri &row) const;
+    /// The codes of a model's stones or molds by their numbers, read at once:
+    /// asked for one by one they took most of the time of finding a model.
+    QHash<qint32, QString> kodlar(const QList<ModelSatiri> &stored, MalzemeTipi tip) const;
 
     Oturum *m_oturum;
 };

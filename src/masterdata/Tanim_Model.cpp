@@ -6,11 +6,15 @@
 #include "LabelPrinter.h"
 #include "MalzemeModel.h"
 #include "ModelFoyu.h"
+#include "ModuleBarkod.h"
 #include "Numbers.h"
 #include "Oturum.h"
 #include "PictureFiles.h"
+#include "ProductLabel.h"
 #include "Theme.h"
 #include "ui_Tanim_Model.h"
+
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +31,7 @@ Tanim_Model::Tanim_Model(const ScreenContext &context, LabelPrinter &labelPrinte
     if (m_labelSettings.YaziciAdi.isEmpty())
         m_labelSettings.YaziciAdi = u"Zebra TLP2844"_s;
     m_ui->setupUi(this);
+    setUpLook();
     setUpControls(openCamera);
     setUpForm({.table = u"Model"_s,
                .parts = partsOf(*m_ui),
@@ -76,9 +81,26 @@ void Tanim_Model::setUpControls(const CameraOpener &openCamera)
             m_picture->ResimSil(m_ui->Model->text(), [this] { return picturePath(); });
         });
     });
+}
+
+void Tanim_Model::setUpLook()
+{
+    constexpr QSize wanted(940, 640);
+    constexpr QSize windowFrame(10, 60);
+    const QSize available = screen()->availableSize();
+    resize(wanted.boundedTo(available - windowFrame));
+    constexpr int smallScreen = 600;
+    m_pixelsPerUnit = available.height() < smallScreen ? 1 : 2;
+
     QPalette warning = palette();
     warning.setColor(QPalette::WindowText, themeColors(warning).mark);
     m_ui->uyari->setPalette(warning);
+    // A symbol is read from white, in every theme.
+    QPalette paper = palette();
+    paper.setColor(QPalette::Window, Qt::white);
+    m_ui->pBarkod->setPalette(paper);
+    constexpr int margin = 8;
+    m_ui->pBarkod->setFixedHeight(symbolUnits.height() * m_pixelsPerUnit + 2 * margin);
 }
 
 // Finding
@@ -119,15 +141,17 @@ TanimEkrani::Found Tanim_Model::readRow()
         return Found::Refused;
     }
     const std::optional<Model> model = m_store.ModelBul(m_ui->Model->text(), tip().TipID);
-    m_found = model.has_value();
     if (model)
         showModel(*model);
     m_opened = m_materials->satirlar();
-    return m_found ? Found::Row : Found::NewRow;
+    return model ? Found::Row : Found::NewRow;
 }
 
 void Tanim_Model::showModel(const Model &model)
 {
+    m_stored = model.Model_ID;
+    m_ui->Model->setText(model.ad);
+    BarkodGoster(model.Model_ID);
     m_picture->ResimGoster(picturePath());
     showNumber(*m_ui->Miktar, model.M_Miktar, u"##0.00");
     m_materials->fill(model.satirlar);
@@ -145,11 +169,25 @@ QString Tanim_Model::picturePath() const
     return modelPicturePath(oturum().ResimYolu, m_ui->Model->text(), tip().KisaAD);
 }
 
+void Tanim_Model::BarkodGoster(qint32 Model_ID)
+{
+    const qreal ratio = devicePixelRatioF();
+    BarkodYuzeyi surface(symbolUnits, qRound(m_pixelsPerUnit * ratio));
+    try {
+        BarkodCiz(surface, barcodeNumber({tip().TipID, Model_ID}));
+    } catch (const std::runtime_error &) {
+        // A model can be opened without a symbol; its label says what is wrong.
+    }
+    QPixmap symbol = QPixmap::fromImage(surface.image());
+    symbol.setDevicePixelRatio(ratio);
+    m_ui->pBarkod->setPixmap(symbol);
+    m_ui->pBarkod->setAutoFillBackground(true);
+}
+
 /// Says that there are materials without a code, which a save leaves out.
 void Tanim_Model::tellDangling()
 {
-    const auto count = std::count_if(m_materials->satirlar().begin(), m_materials->satirlar().end(),
-                                     [](const ModelSatiri &row) { return row.isDangling(); });
+    const int count = m_materials->danglingCount();
     m_ui->uyari->setText(u"%1 malzemenin taşı ya da kalıbı silinmiş, kodu boş. Kodu yeniden "
                          "girilmezse kaydederken modelden çıkar."_s.arg(count));
     m_ui->uyari->setVisible(count > 0);
@@ -158,7 +196,9 @@ void Tanim_Model::tellDangling()
 void Tanim_Model::emptyForm()
 {
     TanimEkrani::emptyForm();
-    m_found = false;
+    m_stored.reset();
+    m_ui->pBarkod->clear();
+    m_ui->pBarkod->setAutoFillBackground(false);
     m_ui->Rapor->abandonEdit();
     m_materials->fill({});
     m_opened = m_materials->satirlar();
@@ -170,7 +210,8 @@ void Tanim_Model::emptyForm()
 
 bool Tanim_Model::mayLeave()
 {
-    const bool changed = m_materials->satirlar() != m_opened || m_ui->Resim->isNew();
+    const bool changed =
+        m_materials->satirlar() != m_opened || m_ui->Rapor->isEditBegun() || m_ui->Resim->isNew();
     return !isEditing() || !changed ||
            ask(u"DEĞİŞİKLİKLER KAYIT EDİLMEDİ, VAZGEÇİLSİN Mİ ?"_s, {}, MessageAnswer::No);
 }
@@ -218,9 +259,7 @@ void Tanim_Model::removeMaterial(int row)
 /// A material whose stone or mold was deleted has no code to be saved under.
 bool Tanim_Model::mayDropDangling()
 {
-    const QList<ModelSatiri> &rows = m_materials->satirlar();
-    const auto count = std::count_if(rows.begin(), rows.end(),
-                                     [](const ModelSatiri &row) { return row.isDangling(); });
+    const int count = m_materials->danglingCount();
     return count == 0 ||
            ask(u"TAŞI YA DA KALIBI SİLİNMİŞ %1 MALZEME MODELDEN ÇIKACAK.\n\nKAYDEDİLSİN Mİ ?"_s.arg(
                    count),
@@ -234,13 +273,27 @@ Model Tanim_Model::collect() const
     return {m_ui->Model->text(), tip().TipID, number(*m_ui->Miktar), m_materials->satirlar(), 0};
 }
 
+/// What another program stored since the model was opened is not undone unseen.
+bool Tanim_Model::mayReplace()
+{
+    const std::optional<qint32> now = m_store.sonKayit(m_ui->Model->text(), tip().TipID);
+    if (now != m_stored && !ask(u"BU MODEL AÇILDIKTAN SONRA BAŞKA BİR YERDE DEĞİŞTİRİLMİŞ.\n\n"
+                                "ÜZERİNE YAZILSIN MI ?"_s,
+                                {}, MessageAnswer::No))
+        return false;
+    m_stored = now;
+    return true;
+}
+
 bool Tanim_Model::writeRow()
 {
-    if (!m_ui->Rapor->finishEdit() || !mayDropDangling())
+    if (!m_ui->Rapor->finishEdit() || !mayDropDangling() || !mayReplace())
         return false;
     Model model = collect();
-    m_store.save(model, m_found);
-    m_found = true; // should the picture fail, the next save replaces these rows
+    m_store.save(model, m_stored.has_value());
+    // Should the picture fail, the next save replaces these rows.
+    m_stored = model.Model_ID;
+    BarkodGoster(model.Model_ID);
     m_opened = m_materials->satirlar();
     if (m_ui->Resim->isNew())
         ResimKaydet(model);

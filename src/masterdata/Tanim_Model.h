@@ -26,6 +26,7 @@ public:
     ~Tanim_Model() override;
 
 private:
+    void setUpLook();
     void setUpControls(const CameraOpener &openCamera);
     template <typename Action>
     void bindAction(QPushButton *button, Action action);
@@ -42,6 +43,7 @@ private:
     const ModelTipi &tip() const;
     Model collect() const;
     void showModel(const Model &model);
+    void BarkodGoster(qint32 Model_ID);
     void tellDangling();
     QString picturePath() const;
 
@@ -51,6 +53,7 @@ private:
     void removeMaterial(int row);
     bool mayDropDangling();
 
+    bool mayReplace();
     void ResimKaydet(const Model &model);
     void etiketBas(const Model &model);
     void yazdir();
@@ -62,6 +65,7 @@ private:
     ResimAlani *m_picture = nullptr;
     QList<ModelTipi> m_types;
     EtiketAyari m_labelSettings;
-    bool m_found = false;        ///< the model on the screen is stored
-    QList<ModelSatiri> m_opened; ///< the materials as they were opened
+    int m_pixelsPerUnit = 2;        ///< of the symbol
+    std::optional<qint32> m_stored; ///< the last record of the model as it is stored
+    QList<ModelSatiri> m_opened;    ///< the materials as they were opened
 };

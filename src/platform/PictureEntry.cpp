@@ -1,5 +1,6 @@
 #include "PictureEntry.h"
 
+#include "EntryControls.h"
 #include "PictureFiles.h"
 
 #include <QApplication>
@@ -95,11 +96,14 @@ void PictureEntry::showNew()
 
 void PictureEntry::keyPressEvent(QKeyEvent *event)
 {
+    const bool removes = event->key() == Qt::Key_Delete;
+    if (event->isAutoRepeat() && (removes || isEnter(*event)))
+        return; // held down, it would give up a new picture and then delete the stored one
     if (event->matches(QKeySequence::Paste))
         takeData(*QApplication::clipboard()->mimeData());
-    else if (event->key() == Qt::Key_Delete)
+    else if (removes)
         Q_EMIT removalAsked();
-    else if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    else if (isEnter(*event))
         chooseFile();
     else
         PictureBox::keyPressEvent(event);

@@ -1,4 +1,5 @@
 #include "Tanim_Model.h"
+#include "BarcodeReader.h"
 #include "DefinitionFixture.h"
 #include "PictureEntry.h"
 #include "Pictures.h"
@@ -107,12 +108,15 @@ class Tanim_ModelTest : public QObject
 private Q_SLOTS:
     void addsAModelByKeyboard();
     void findsAndChangesAModel();
+    void showsItsSymbol();
     void picksFromTheList();
     void refusesUnknownCodes();
     void finishesOrRefusesAnOpenEditor();
     void removesRows();
     void keepsARowWhoseStoneIsGone();
+    void asksBeforeAnotherProgramsRowsAreReplaced();
     void asksBeforeMaterialsAreGivenUp();
+    void aHeldKeyTakesOneStep();
     void savesPicturesInBothPlaces();
     void aFailedPictureOrWriteLosesNothing();
     void printsItsLabel();
@@ -181,11 +185,37 @@ void Tanim_ModelTest::findsAndChangesAModel()
     on.save();
     QCOMPARE(on.rows(u"A75"_s, 1), QStringList({u"0 1 6 2.125"_s, u"1 1 1 2.125"_s}));
     QCOMPARE(on.rows(u"A75"_s, 2), QStringList(u"1 2 2 2.125"_s)); // the necklace of that name
+    QCOMPARE(on.row(u"Select Model From Model Where Model = 'A75' and M_Uruntip = 1"_s),
+             u"A75"_s); // not renamed by how it was typed
 
     on.find(u"boş"_s);
     QCOMPARE(on.shown(), QStringList(u"||"_s));
     on.save();
     QCOMPARE(on.rows(u"boş"_s, 1), QStringList(u"0 0 0 3.5"_s));
+}
+
+void Tanim_ModelTest::showsItsSymbol()
+{
+    Models on;
+    const auto symbol = [&] { return on.control<QLabel>(u"pBarkod"_s)->pixmap(); };
+    on.find(u"A75"_s);
+    const QString last = on.row(u"Select Max(Model_ID) as n From Model Where Model = 'A75' and "
+                                "M_Uruntip = 1"_s);
+    const QStringList read = readBarcodes(symbol().toImage());
+    QCOMPARE(read.size(), 1);
+    QCOMPARE(read.first().chopped(1), u"EAN-13:16001"_s + last.rightJustified(7, u'0'));
+    on.key(Qt::Key_Escape);
+    QVERIFY(symbol().isNull());
+
+    // A number that makes no symbol keeps nobody from the model.
+    on.oturum.Veritabani->execute(u"Update UrunTipi Set TipID = -1 Where TipID = 1"_s);
+    on.oturum.Veritabani->execute(u"Update Model Set M_Uruntip = -1 Where M_Uruntip = 1"_s);
+    on.open();
+    on.control<QComboBox>(u"UrunTipi"_s)->setCurrentText(u"Yüzük"_s);
+    on.typeEnter(u"A75"_s);
+    on.key(Qt::Key_Return);
+    QVERIFY(on.isEditing());
+    QCOMPARE(on.shown().size(), 2);
 }
 
 void Tanim_ModelTest::picksFromTheList()
@@ -306,6 +336,52 @@ void Tanim_ModelTest::keepsARowWhoseStoneIsGone()
     QCOMPARE(on.rows(u"A75"_s, 1), QStringList({u"0 2 4 2"_s, u"1 1 1 2"_s}));
 }
 
+void Tanim_ModelTest::asksBeforeAnotherProgramsRowsAreReplaced()
+{
+    Models on;
+    for (const QString &model : {u"yeni"_s, u"A75"_s}) {
+        on.find(model);
+        on.typeEnter(u"9"_s);
+        on.oturum.Veritabani->execute(
+            u"DELETE From Model Where Model = '%1' and M_Uruntip = 1"_s.arg(model));
+        on.oturum.Veritabani->execute(
+            u"Insert into Model (Model, M_Uruntip, M_Tip, M_Kod, M_Adet, M_Miktar) "
+            "values ('%1', 1, 0, 2, 7, 1)"_s.arg(model));
+        for (const MessageAnswer answer : {MessageAnswer::No, MessageAnswer::Yes}) {
+            on.messages.expect({.text = u"BU MODEL AÇILDIKTAN SONRA BAŞKA BİR YERDE "
+                                        "DEĞİŞTİRİLMİŞ.\n\nÜZERİNE YAZILSIN MI ?"_s,
+                                .answer = answer,
+                                .icon = MessageIcon::Exclamation,
+                                .defaultAnswer = MessageAnswer::No});
+            on.save();
+            on.messages.verify();
+            if (answer == MessageAnswer::No)
+                QCOMPARE(on.rows(model, 1), QStringList(u"0 2 7 1"_s));
+        }
+        QVERIFY(!on.rows(model, 1).contains(u"0 2 7 1"_s)); // both of them would be one model
+        QVERIFY(!on.isEditing());
+    }
+}
+
+void Tanim_ModelTest::aHeldKeyTakesOneStep()
+{
+    Models on;
+    const auto hold = [&](Qt::Key key) {
+        for (int i = 0; i < 5; ++i)
+            holdKey(on.screen->focusWidget(), key);
+    };
+    on.find(u"A75"_s);
+    on.toGrid();
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Insert, Qt::Key_Delete})
+        hold(key);
+    QCOMPARE(on.focus(), u"Rapor"_s);
+    QCOMPARE(on.shown().size(), 2);
+    on.key(Qt::Key_Return);
+    hold(Qt::Key_Return);
+    hold(Qt::Key_Escape);
+    QCOMPARE(on.focus(), u"cmbTas"_s);
+}
+
 void Tanim_ModelTest::asksBeforeMaterialsAreGivenUp()
 {
     Models on;
@@ -318,6 +394,11 @@ void Tanim_ModelTest::asksBeforeMaterialsAreGivenUp()
     on.find(u"A75"_s);
     on.toGrid();
     on.key(Qt::Key_Right);
+    on.type(u"PRL 1"_s); // not entered yet
+    on.messages.expect(giveUp, MessageAnswer::No);
+    on.press(Qt::Key_V, u"cmdvazgec"_s);
+    on.messages.verify();
+    on.key(Qt::Key_Escape);
     on.key(Qt::Key_Right);
     on.typeEnter(u"9"_s);
     for (const auto &leave : {std::function([&] { on.key(Qt::Key_Escape); }),
