@@ -13,6 +13,7 @@
 #include "ui_Tanim_Barkod.h"
 
 #include <QKeyEvent>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +31,7 @@ Tanim_Barkod::Tanim_Barkod(const ScreenContext &context, LabelPrinter &labelPrin
     setUpLook();
     connectControls();
     clear();
+    resize(QSize(820, 460).boundedTo(screen()->availableSize() * 0.95));
 }
 
 Tanim_Barkod::~Tanim_Barkod() = default;
@@ -133,7 +135,7 @@ void Tanim_Barkod::ModelBul()
     else if (model.isEmpty() || types.size() > 1)
         pick(model); // it is for the user to say under which type
     else
-        m_ui->uyari->setText(u"MODEL BULUNAMADI: %1"_s.arg(model));
+        warn(u"MODEL BULUNAMADI: %1"_s.arg(model));
     if (m_ui->Model->hasFocus())
         TumunuSec(*m_ui->Model);
 }
@@ -224,10 +226,16 @@ void Tanim_Barkod::tellHiddenFields()
 {
     const BarkodTipi *tip = chosenType();
     const QStringList covered = tip == nullptr ? QStringList() : coveredFields(*tip);
-    m_ui->uyari->setText(covered.isEmpty()
-                             ? QString()
-                             : u"Bu etiket tipinde barkodun altında kalan alanlar okunmaz: "_s +
-                                   covered.join(u", "_s));
+    warn(covered.isEmpty() ? QString()
+                           : u"Bu etiket tipinde barkodun altında kalan alanlar okunmaz: "_s +
+                                 covered.join(u", "_s));
+}
+
+/// The line takes room only while it says something.
+void Tanim_Barkod::warn(const QString &text)
+{
+    m_ui->uyari->setText(text);
+    m_ui->uyari->setVisible(!text.isEmpty());
 }
 
 // Printing

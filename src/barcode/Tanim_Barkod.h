@@ -52,6 +52,7 @@ private:
     const BarkodTipi *chosenType() const;
     void typeChosen();
     void tellHiddenFields();
+    void warn(const QString &text);
     void updateButtons();
 
     PrintDocument document() const;
