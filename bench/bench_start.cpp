@@ -36,12 +36,6 @@ void runToFirstPaint(const QString &program, const QStringList &arguments)
         throw std::runtime_error(program.toStdString() + " does not start");
 }
 
-double middle(std::vector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 } // namespace
 
 int main(int argc, char **argv)
