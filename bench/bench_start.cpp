@@ -6,7 +6,6 @@
 #include "Measured.h"
 #include "Program.h"
 
-#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <QCoreApplication>
