@@ -3,7 +3,6 @@
 #include "EtiketSablonu.h"
 #include "EtiketStore.h"
 #include "LabelOutput.h"
-#include "Numbers.h"
 #include "Oturum.h"
 #include "ReadableDatabase.h"
 #include "TurkishText.h"
@@ -106,8 +105,7 @@ int etiketCommand(const QStringList &arguments)
     oturum.Veritabani = std::move(source.db);
     const EtiketStore store(oturum);
     Etiket etiket = findLabel(store, words[1], words[2]);
-    etiket.Ayar =
-        parser.isSet(ayar) ? parser.value(ayar) : formatNumber(store.ayarlar().sabitayar, u"#0");
+    etiket.Ayar = parser.isSet(ayar) ? parser.value(ayar) : store.ayarlar().karat();
     etiket.Aciklama = parser.value(aciklama);
     output.write(parser.isSet(tip)
                      ? templateLabel(etiket, findTemplate(store, parser.value(tip)), values)

@@ -52,6 +52,11 @@ PageFont fontOf(const Recordset &Kayit)
 
 } // namespace
 
+QString EtiketAyari::karat() const
+{
+    return sabitayar == 0 ? QString() : formatNumber(sabitayar, u"#0");
+}
+
 EtiketAyari EtiketStore::ayarlar() const
 {
     Recordset Kayit = m_oturum->sorgula(u"Select * From XXX"_s);

@@ -17,6 +17,9 @@ struct EtiketAyari
 {
     double sabitayar = 0; ///< the fixed karat
     QString YaziciAdi;    ///< the label printer; empty for the default one
+
+    /// The karat that labels propose; empty where none is fixed.
+    QString karat() const;
 };
 
 /// Reads what labels are made of. Everything throws DatabaseError.

@@ -160,7 +160,7 @@ void Tanim_Barkod::showModel(const EtiketModeli &found)
     m_ui->Model->setText(etiket.Model);
     m_ui->txtUruntipi->setText(etiket.UrunTipi);
     m_ui->txtMiktar->setText(formatNumber(etiket.Miktar, u"##0.00"));
-    m_ui->txtAyar->setText(formatNumber(m_settings.sabitayar, u"#0"));
+    m_ui->txtAyar->setText(m_settings.karat());
     m_ui->Picture1->showFile(
         modelPicturePath(m_context.oturum.ResimYolu, etiket.Model, found.KisaAD));
     m_ui->pBarkod->draw(barcodeNumber({etiket.TipID, etiket.Model_ID}));

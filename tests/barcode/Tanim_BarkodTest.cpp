@@ -98,6 +98,15 @@ private Q_SLOTS:
         QVERIFY(!m_screen->isVisible());
     }
 
+    void withoutAFixedKaratNoneIsProposed()
+    {
+        m_oturum->Veritabani->execute(u"DELETE From XXX"_s);
+        open();
+        enter(u"boş"_s);
+        QCOMPARE(text(u"txtUruntipi"_s), u"Yüzük"_s);
+        QCOMPARE(text(u"txtAyar"_s), QString());
+    }
+
     void theListAnswersForNoModelAndForSeveralTypes()
     {
         open();
