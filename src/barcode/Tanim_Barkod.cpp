@@ -87,8 +87,7 @@ void Tanim_Barkod::connectControls()
 
 void Tanim_Barkod::keyPressEvent(QKeyEvent *event)
 {
-    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter)
+    if (isEnter(*event))
         guarded(m_context.messages, this, [this] { enterPressed(); });
     else if (event->key() == Qt::Key_Escape && m_found)
         clear();

@@ -131,11 +131,6 @@ bool CellEditors::types(const QKeyEvent *event)
     return !command && !event->text().isEmpty() && event->text().front().isPrint();
 }
 
-bool CellEditors::isEnter(const QKeyEvent *event)
-{
-    return event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-}
-
 bool CellEditors::typeColour(const QKeyEvent *event)
 {
     if (!types(event))

@@ -53,7 +53,6 @@ public:
 
     /// Whether the key types a character.
     static bool types(const QKeyEvent *event);
-    static bool isEnter(const QKeyEvent *event);
 
 Q_SIGNALS:
     void edited(const QString &text);

@@ -1,6 +1,7 @@
 #include "Giris_Kur.h"
 
 #include "Dates.h"
+#include "EntryControls.h"
 #include "Guarded.h"
 #include "KurModel.h"
 #include "Oturum.h"
@@ -70,7 +71,7 @@ void Giris_Kur::connectControls()
 
 void Giris_Kur::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (isEnter(*event))
         guarded(m_context.messages, this, [this] { enterPressed(); });
     else if (event->key() == Qt::Key_Escape && isEntering())
         guarded(m_context.messages, this, [this] { abandon(); });

@@ -136,7 +136,7 @@ void Giris_Siparis::connectGrid()
 
 void Giris_Siparis::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (isEnter(*event))
         guarded(m_context.messages, this, [this] { enterPressed(); });
     else if (event->key() == Qt::Key_Escape && isEditing())
         guarded(m_context.messages, this, [this] { abandon(); });

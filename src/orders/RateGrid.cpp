@@ -1,5 +1,6 @@
 #include "RateGrid.h"
 
+#include "EntryControls.h"
 #include "KurModel.h"
 #include "RateDelegate.h"
 #include "Twips.h"
@@ -63,7 +64,7 @@ void RateGrid::finishEdit()
 
 void RateGrid::keyPressEvent(QKeyEvent *event)
 {
-    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+    if (isEnter(*event))
         editRate(currentIndex());
     else
         QTableView::keyPressEvent(event);

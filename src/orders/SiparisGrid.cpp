@@ -1,6 +1,7 @@
 #include "SiparisGrid.h"
 
 #include "CellEditors.h"
+#include "EntryControls.h"
 #include "OrderCellDelegate.h"
 #include "ProductLabel.h"
 #include "SiparisModel.h"
@@ -187,7 +188,7 @@ void SiparisGrid::keyPressEvent(QKeyEvent *event)
         return;
     // An editor that was left with a text not yet taken is finished first.
     const QModelIndex cell = currentIndex();
-    if (CellEditors::isEnter(event) || event->key() == Qt::Key_F2) {
+    if (isEnter(*event) || event->key() == Qt::Key_F2) {
         if (!isScannerEnter(event) && finishEdit())
             startEditor(cell);
     } else if (event->key() == Qt::Key_Insert) {
@@ -226,10 +227,9 @@ bool SiparisGrid::editorKey(QKeyEvent *event)
         return true;
     const QModelIndex cell = m_editors->cell();
     const bool colour = cell.column() == SiparisModel::colourColumn;
-    if (CellEditors::isEnter(event) || event->key() == Qt::Key_Tab) {
+    if (isEnter(*event) || event->key() == Qt::Key_Tab) {
         // Enter without a code asks for the list of models.
-        const bool list = CellEditors::isEnter(event) &&
-                          cell.column() == SiparisModel::modelColumn &&
+        const bool list = isEnter(*event) && cell.column() == SiparisModel::modelColumn &&
                           m_editors->text().trimmed().isEmpty();
         if (!isScannerEnter(event) && (list ? takeModel({}) : finishEdit()))
             goOn(cell);

@@ -1,3 +1,4 @@
+#include "EntryControls.h"
 #include "ProductLabel.h"
 #include "SiparisGrid.h"
 #include "SiparisModel.h"
@@ -68,5 +69,5 @@ void SiparisGrid::takeLabel(const QString &text)
 bool SiparisGrid::isScannerEnter(const QKeyEvent *event)
 {
     const std::optional<quint64> label = std::exchange(m_labelTime, std::nullopt);
-    return label && CellEditors::isEnter(event) && event->timestamp() - *label < scannerEnterMs;
+    return label && isEnter(*event) && event->timestamp() - *label < scannerEnterMs;
 }
