@@ -2,8 +2,8 @@
 
 #include <QStyledItemDelegate>
 
-/// Paints the cells of the lookup list, with room beside their texts, and
-/// frames the current one: F12 and sorting go by its column, which the
+/// Paints the cells of lists and reports, with room beside their texts, and
+/// frames the current one: keys such as F9 and F12 go by its column, which a
 /// highlighted row alone does not show.
 class ListCellDelegate : public QStyledItemDelegate
 {
