@@ -3,6 +3,8 @@
 #include "Dates.h"
 #include "Numbers.h"
 #include "Recordset.h"
+#include "ReportTable.h"
+#include "WholeFile.h"
 
 #include <QRegularExpression>
 
@@ -30,6 +32,8 @@ QString csvValue(const QVariant &value, bool computed)
         return {};
     case QMetaType::QDateTime:
         return formatDateTime(value.toDateTime());
+    case QMetaType::QDate:
+        return formatDate(value.toDate());
     case QMetaType::Double:
         return plainNumber(value.toDouble());
     case QMetaType::Bool:
@@ -61,4 +65,33 @@ QString csvRow(const Recordset &rows)
     for (int i = 0; i < rows.fieldCount(); ++i)
         values.append(csvValue(rows.value(i), !rows.isTableField(i)));
     return values.join(u',');
+}
+
+QString csvHeader(const ReportTable &table)
+{
+    QStringList names;
+    for (const ReportColumn &column : table.columns) {
+        if (!column.hidden)
+            names.append(quoted(column.heading));
+    }
+    return names.join(u',');
+}
+
+QString csvRow(const ReportTable &table, qsizetype row)
+{
+    QStringList values;
+    for (qsizetype column = 0; column < table.columns.size(); ++column) {
+        if (!table.columns[column].hidden)
+            values.append(csvValue(table.rows[row].values[column], false));
+    }
+    return values.join(u',');
+}
+
+void writeCsv(const ReportTable &table, const QString &path)
+{
+    const WholeFile file(u"CSV"_s, path);
+    QByteArray bytes = csvHeader(table).toUtf8() + '\n';
+    for (qsizetype row = 0; row < table.rows.size(); ++row)
+        bytes += csvRow(table, row).toUtf8() + '\n';
+    file.write(bytes);
 }

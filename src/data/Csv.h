@@ -3,6 +3,7 @@
 #include <QString>
 
 class Recordset;
+struct ReportTable;
 
 /// A record set as CSV: commas; texts always in quotes, so that a null
 /// (nothing) and an empty text ("") differ; dates dd.MM.yyyy, with HH:mm:ss
@@ -10,3 +11,9 @@ class Recordset;
 /// values as hexadecimal digits.
 QString csvHeader(const Recordset &rows);
 QString csvRow(const Recordset &rows);
+
+/// A report in the same form; its hidden columns are left out.
+QString csvHeader(const ReportTable &table);
+QString csvRow(const ReportTable &table, qsizetype row);
+/// Its heading and all its rows into a file; throws as WholeFile does.
+void writeCsv(const ReportTable &table, const QString &path);

@@ -1,51 +1,13 @@
 #include "PrintDocument.h"
+#include "WholeFile.h"
 
 #include <QBuffer>
-#include <QDir>
-#include <QFileInfo>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QSaveFile>
-#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// A file that comes into its place whole or not at all.
-class WholeFile
-{
-public:
-    WholeFile(const QString &kind, const QString &path) : m_kind(kind), m_path(path)
-    {
-        const QFileInfo place(path);
-        if (place.isDir())
-            refuse(u"Bu bir klasör."_s);
-        if (!place.dir().exists())
-            refuse(u"Klasör bulunamadı."_s);
-    }
-
-    void write(const QByteArray &bytes) const
-    {
-        QSaveFile file(m_path);
-        if (!file.open(QIODevice::WriteOnly))
-            refuse(u"Buraya yazılamıyor; dosya korunuyor olabilir."_s);
-        // commit() does not notice when its last block finds no room; flush() does.
-        if (file.write(bytes) != bytes.size() || !file.flush() || !file.commit())
-            refuse(u"Diske yazılamadı; disk dolu olabilir."_s);
-    }
-
-    [[noreturn]] void refuse(const QString &reason) const
-    {
-        throw std::runtime_error(
-            u"%1 dosyası yazılamadı: %2\n%3"_s.arg(m_kind, QDir::toNativeSeparators(m_path), reason)
-                .toStdString());
-    }
-
-private:
-    QString m_kind;
-    QString m_path;
-};
 
 /// In memory: the PDF writer does not tell when its device fails.
 QByteArray paintPdf(const PrintDocument &document, int dotsPerInch)

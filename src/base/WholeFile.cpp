@@ -1,0 +1,54 @@
+#include "WholeFile.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+#include <stdexcept>
+
+using namespace Qt::StringLiterals;
+
+WholeFile::WholeFile(const QString &kind, const QString &path) : m_kind(kind), m_path(path)
+{
+    const QFileInfo place(path);
+    if (place.isDir())
+        refuse(u"Bu bir klasör."_s);
+    if (!place.dir().exists())
+        refuse(u"Klasör bulunamadı."_s);
+}
+
+void WholeFile::write(const QByteArray &bytes) const
+{
+    QBuffer source;
+    source.setData(bytes);
+    source.open(QIODevice::ReadOnly);
+    write(source);
+}
+
+void WholeFile::write(QIODevice &source) const
+{
+    constexpr qint64 block = 1 << 20;
+    QSaveFile file(m_path);
+    if (!file.open(QIODevice::WriteOnly))
+        refuse(u"Buraya yazılamıyor; dosya korunuyor olabilir."_s);
+    while (!source.atEnd()) {
+        const QByteArray bytes = source.read(block);
+        if (bytes.isEmpty() || file.write(bytes) != bytes.size())
+            refuseFullDisk();
+    }
+    // commit() does not notice when its last block finds no room; flush() does.
+    if (!file.flush() || !file.commit())
+        refuseFullDisk();
+}
+
+void WholeFile::refuse(const QString &reason) const
+{
+    throw std::runtime_error(
+        u"%1 dosyası yazılamadı: %2\n%3"_s.arg(m_kind, QDir::toNativeSeparators(m_path), reason)
+            .toStdString());
+}
+
+void WholeFile::refuseFullDisk() const
+{
+    refuse(u"Diske yazılamadı; disk dolu olabilir."_s);
+}
