@@ -1,0 +1,36 @@
+#pragma once
+
+#include "ReportSheet.h"
+
+#include <QHash>
+#include <QSize>
+
+/// The pictures of a report's models, small and in files of their own, each
+/// made once however many rows show it.
+class SheetThumbnails
+{
+public:
+    static constexpr int edge = 80; ///< of the box they stand in, in pixels
+
+    struct Thumbnail
+    {
+        QByteArray file;  ///< as the system names it; empty: the model has no picture
+        double scale = 1; ///< at which it fits into the box
+    };
+
+    /// The files go into the folder, which must outlive this.
+    SheetThumbnails(const ReportSheet &sheet, const QString &folder);
+
+    /// Makes them; false when it was stopped.
+    bool make(const SheetProgress &progress);
+    bool any() const { return m_any; }
+    Thumbnail of(const QString &model) const;
+
+private:
+    Thumbnail makeOne(const QString &path, qsizetype number) const;
+
+    const ReportSheet &m_sheet;
+    QString m_folder;
+    QHash<QString, Thumbnail> m_thumbnails; ///< by folded model code
+    bool m_any = false;
+};
