@@ -186,13 +186,13 @@ void RaporGrid::fitColumns()
         m_rows->setColumnHidden(column, hidden);
         m_total->setColumnHidden(column, hidden);
         if (!hidden)
-            m_rows->setColumnWidth(column, fittingWidth(column));
+            m_rows->setColumnWidth(column, columnFit(column));
     }
 }
 
 /// Of a long report, rows all over it are measured, and besides them the
 /// longest text and the outermost figures, which are the widest.
-int RaporGrid::fittingWidth(int column) const
+int RaporGrid::columnFit(int column) const
 {
     const QList<ReportRow> &rows = m_table->rows;
     const QFontMetrics plain(m_rows->font());
@@ -232,6 +232,12 @@ int RaporGrid::fittingWidth(int column) const
             measure(row);
     }
     return qMin(widest + 2 * ListCellDelegate::padding + 4, widestColumn);
+}
+
+int RaporGrid::fittingWidth() const
+{
+    return m_rows->horizontalHeader()->length() + m_rows->verticalScrollBar()->sizeHint().width() +
+           2 * frameWidth();
 }
 
 /// The total's view leaves out what the other's scroll bar takes.

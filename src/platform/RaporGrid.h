@@ -27,6 +27,8 @@ public:
     /// The table with its rows as they stand on the screen.
     ReportTable table() const;
 
+    /// How wide it is when every column stands in full.
+    int fittingWidth() const;
     /// The view of all rows but the total.
     QTableView *rows() const { return m_rows; }
     /// The view of the total below them.
@@ -44,7 +46,7 @@ private:
     QTableView *makeView(const QString &name, RaporModel *model);
     void keepInStep();
     void fitColumns();
-    int fittingWidth(int column) const;
+    int columnFit(int column) const;
     void alignTotal();
     bool pressKey(QTableView *view, QKeyEvent *event);
     void activate(const QTableView *view, const QModelIndex &cell);
