@@ -1,0 +1,11 @@
+#pragma once
+
+#include "ScreenContext.h"
+
+class ExcelAktar;
+
+/// What the report screens work with, beyond what the other screens do.
+struct RaporContext : ScreenContext
+{
+    const ExcelAktar &excel;
+};
