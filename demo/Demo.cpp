@@ -91,7 +91,7 @@ Company makeCompany(const QString &path, int scale, const Progress &progress)
     company.models = fillModels(*db, scale, company.materials);
     fillCatalogues(*db, scale, company.models);
     progress(u"Modeller: %1"_s.arg(company.models.size()));
-    fillOrders(*db, scale, customers, company.models,
+    fillOrders(*db, {.orders = demoOrderCount(scale), .customers = customers}, company.models,
                [&](int done, int all) { progress(u"Siparişler: %1 / %2"_s.arg(done).arg(all)); });
     transaction.commit();
     return company;

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int ordersPerScale = 400;
-constexpr int days = 365;
+constexpr int daysOfAYear = 365;
 constexpr int linesOfTheLongOrder = 120;
 
 /// How far the workshop has come with an order.
@@ -61,16 +61,13 @@ QString hallmark(Dice &dice, int karat)
 class OrderWriter
 {
 public:
-    OrderWriter(Database &company, int scale, int customers, const QList<DemoModel> &models)
+    OrderWriter(Database &company, const DemoOrderPlan &plan, const QList<DemoModel> &models)
         : m_headers(company.table(u"SiparisB"_s)),
           m_lines(company.table(u"SiparisD"_s)),
-          m_all(ordersPerScale * scale),
-          m_customers(customers),
+          m_plan(plan),
           m_models(models)
     {
     }
-
-    int all() const { return m_all; }
 
     void write(int place)
     {
@@ -90,10 +87,11 @@ public:
     }
 
 private:
-    /// The orders are spread evenly over a year; on Sundays the shop is shut.
+    /// The orders are spread evenly over the years; on Sundays the shop is shut.
     QDate orderDate(int place) const
     {
-        const QDate day = demoDay().addDays(int(qint64(place + 1) * days / m_all) - days);
+        const int days = daysOfAYear * m_plan.years;
+        const QDate day = demoDay().addDays(int(qint64(place + 1) * days / m_plan.orders) - days);
         return day.dayOfWeek() == Qt::Sunday ? day.addDays(-1) : day;
     }
 
@@ -103,7 +101,7 @@ private:
         const int karat = m_dice.chance(55) ? 585 : m_dice.oneOf(m_karats);
         addRow(m_headers, {{u"SipTrh", m_ordered},
                            {u"TesTrh", m_delivery},
-                           {u"SipFirkod", m_dice.between(1, m_customers)},
+                           {u"SipFirkod", m_dice.between(1, m_plan.customers)},
                            {u"Ayar", karat},
                            {u"Patent", hallmark(m_dice, karat)},
                            {u"Aciklama", orderNote(m_dice)}});
@@ -163,8 +161,7 @@ private:
 
     Recordset m_headers;
     Recordset m_lines;
-    int m_all;
-    int m_customers;
+    DemoOrderPlan m_plan;
     const QList<DemoModel> &m_models;
     const QStringList m_colours = demoColours();
     const QList<int> m_karats = demoKarats();
@@ -175,13 +172,18 @@ private:
 
 } // namespace
 
-void fillOrders(Database &company, int scale, int customers, const QList<DemoModel> &models,
+int demoOrderCount(int scale)
+{
+    return ordersPerScale * scale;
+}
+
+void fillOrders(Database &company, const DemoOrderPlan &plan, const QList<DemoModel> &models,
                 const std::function<void(int done, int all)> &progress)
 {
-    OrderWriter writer(company, scale, customers, models);
-    for (int place = 0; place < writer.all(); ++place) {
+    OrderWriter writer(company, plan, models);
+    for (int place = 0; place < plan.orders; ++place) {
         writer.write(place);
-        if ((place + 1) % (writer.all() / 4) == 0)
-            progress(place + 1, writer.all());
+        if ((place + 1) % (plan.orders / 4) == 0)
+            progress(place + 1, plan.orders);
     }
 }

@@ -6,6 +6,16 @@
 class Database;
 struct DemoModel;
 
-/// Orders of the last year; tells how many are done.
-void fillOrders(Database &company, int scale, int customers, const QList<DemoModel> &models,
+struct DemoOrderPlan
+{
+    int orders = 0;
+    int customers = 0; ///< whose codes run from 1
+    int years = 1;     ///< up to the demo's day, over which the orders are spread
+};
+
+/// How many orders a demo company of that scale has.
+int demoOrderCount(int scale);
+
+/// The orders of the last years; tells how many are done.
+void fillOrders(Database &company, const DemoOrderPlan &plan, const QList<DemoModel> &models,
                 const std::function<void(int done, int all)> &progress);
