@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const ReportPeriod period{QDate(2024, 1, 10), QDate(2024, 2, 28)};
-constexpr unsigned companies = 8;
+constexpr unsigned companies = 4;
 
 /// Figures by row and column; a figure that is there and empty is a null.
 using Figures = QMap<QString, QMap<QString, RandomCompany::Number>>;
