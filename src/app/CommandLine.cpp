@@ -24,6 +24,10 @@ constexpr Command commands[] = {
      barkodCommand, true},
     {u"model", u"kuyum model VERITABANI MODEL TIP --pdf DOSYA [--resim KLASOR]", modelCommand,
      true},
+    {u"rapor",
+     u"kuyum rapor tas|kalip|model VERITABANI --bas G.A.Y --bit G.A.Y --csv|--xlsx|--pdf DOSYA\n"
+     "              (model için: [--bol ayar|tip] [--firma N] [--ulke N] [--model ONEK] [--tip N])",
+     raporCommand, true},
     {u"sorgu", u"kuyum sorgu VERITABANI \"SELECT ...\"", sorguCommand},
     {u"demo", u"kuyum demo KLASOR [--olcek N]", demoCommand, true},
 };

@@ -40,5 +40,6 @@ int barkodCommand(const QStringList &arguments);
 int etiketCommand(const QStringList &arguments);
 int fisCommand(const QStringList &arguments);
 int modelCommand(const QStringList &arguments);
+int raporCommand(const QStringList &arguments);
 int sorguCommand(const QStringList &arguments);
 int demoCommand(const QStringList &arguments);

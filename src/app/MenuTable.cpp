@@ -2,6 +2,7 @@
 
 #include "Giris_Kur.h"
 #include "Giris_Siparis.h"
+#include "Rapor_Siparis.h"
 #include "ScreenServices.h"
 #include "Tanim_Ayar.h"
 #include "Tanim_Barkod.h"
@@ -29,6 +30,15 @@ ScreenFactory rememberingScreen(ScreenServices &services)
 {
     return [&services](QWidget *parent) {
         return std::make_unique<Screen>(services.context(), services.settings, parent);
+    };
+}
+
+/// The same for one that works with the reports' services.
+template <typename Screen>
+ScreenFactory reportScreen(ScreenServices &services)
+{
+    return [&services](QWidget *parent) {
+        return std::make_unique<Screen>(services.reportContext(), parent);
     };
 }
 
@@ -66,5 +76,6 @@ MenuScreens menuTable(ScreenServices &services)
         {7, rememberingScreen<Giris_Siparis>(services)},
         {8, screen<Tanim_Ayar>(services)},
         {9, screen<Tanim_Renk>(services)},
+        {11, reportScreen<Rapor_Siparis>(services)},
     };
 }

@@ -11,6 +11,7 @@ ScreenServices::ScreenServices(Oturum &oturum, Messages &messages)
       settings(u"Kuyum"_s, u"kuyum"_s),
       printers(settings),
       viewer(printers, messages),
-      labelPrinter(printers)
+      labelPrinter(printers),
+      excel(spreadsheet, messages)
 {
 }

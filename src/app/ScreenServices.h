@@ -1,9 +1,11 @@
 #pragma once
 
+#include "ExcelAktar.h"
 #include "LabelPrinter.h"
 #include "Printers.h"
 #include "PrintPreview.h"
-#include "ScreenContext.h"
+#include "RaporContext.h"
+#include "SpreadsheetApplication.h"
 
 #include <QSettings>
 
@@ -15,6 +17,7 @@ struct ScreenServices
     ScreenServices &operator=(const ScreenServices &) = delete;
 
     ScreenContext context() { return {oturum, messages, openList, viewer}; }
+    RaporContext reportContext() { return {context(), excel}; }
 
     Oturum &oturum;
     Messages &messages;
@@ -23,4 +26,6 @@ struct ScreenServices
     Printers printers;
     PreviewViewer viewer;
     InstalledLabelPrinter labelPrinter;
+    InstalledSpreadsheet spreadsheet;
+    ExcelAktar excel;
 };

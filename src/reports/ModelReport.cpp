@@ -2,6 +2,7 @@
 
 #include "Numbers.h"
 #include "Oturum.h"
+#include "ReportFilters.h"
 #include "ReportSql.h"
 #include "RowReader.h"
 #include "SqlText.h"
@@ -30,6 +31,24 @@ QString customersSql(const ModelReportRequest &request)
 ModelReport::ModelReport(Oturum &oturum, const ModelReportRequest &request)
     : OrderReport(oturum, request.period), m_request(request)
 {
+}
+
+QStringList ModelReport::header() const
+{
+    QStringList lines = OrderReport::header();
+    const auto add = [&](const QString &caption, const QList<FilterChoice> &choices,
+                         std::optional<qint32> number) {
+        if (!number)
+            return;
+        const auto chosen = std::ranges::find(choices, *number, &FilterChoice::number);
+        lines.append(caption + (chosen == choices.end() ? QString::number(*number) : chosen->text));
+    };
+    add(u"MÜŞTERİ : "_s, customerChoices(m_oturum), m_request.Firkod);
+    add(u"ÜLKE : "_s, countryChoices(m_oturum), m_request.UlkeID);
+    if (!m_request.modelPrefix.isEmpty())
+        lines.append(u"MODEL ÖNEKİ : "_s + m_request.modelPrefix);
+    add(u"ÜRÜN TİPİ : "_s, productTypeChoices(m_oturum), m_request.TipID);
+    return lines;
 }
 
 QList<ReportColumnGroup> ModelReport::findGroups()

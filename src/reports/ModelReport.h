@@ -13,6 +13,8 @@ class ModelReport : public OrderReport
 public:
     ModelReport(Oturum &oturum, const ModelReportRequest &request);
 
+    QStringList header() const override;
+
 private:
     QList<ReportColumnGroup> findGroups() override;
     void readItems() override;

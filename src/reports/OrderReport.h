@@ -47,6 +47,8 @@ public:
 
     Outcome read(const ReportProgress &progress);
     const ReportTable &table() const { return m_table; }
+    /// What stands above the report on paper: its title, and the filters.
+    virtual QStringList header() const { return {m_table.title}; }
     const ReportPeriod &period() const { return m_period; }
     const QList<ReportColumnGroup> &groups() const { return m_groups; }
 

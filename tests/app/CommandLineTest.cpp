@@ -79,6 +79,12 @@ private Q_SLOTS:
                                    u"Küçük"_s, u"--alan"_s, u"YOK=1"_s};
         QTest::newRow("an unknown symbology")
             << QStringList{u"barkod"_s, u"qr"_s, u"1"_s, u"--pdf"_s, u"x.pdf"_s};
+        const QStringList report{u"rapor"_s,  u"tas"_s,   m_database,    u"--bas"_s,
+                                 u"1.3.12"_s, u"--csv"_s, u"yok/x.csv"_s};
+        QTest::newRow("a report without an end") << report;
+        const QStringList march = report + QStringList{u"--bit"_s, u"31.3.12"_s};
+        QTest::newRow("a report in two files") << march + QStringList{u"--pdf"_s, u"x.pdf"_s};
+        QTest::newRow("another report's filter") << march + QStringList{u"--firma"_s, u"10"_s};
         QTest::newRow("an empty folder name") << QStringList{u"demo"_s, QString()};
     }
     void wrongWordsShowTheUsage()
@@ -124,6 +130,33 @@ private Q_SLOTS:
         QVERIFY2(outcome.error.startsWith(reason), qPrintable(outcome.error));
         QCOMPARE(outcome.output, QString());
         QCOMPARE(fileBytes(), before);
+    }
+
+    void ordersAreReported()
+    {
+        const QStringList model{u"rapor"_s,    u"model"_s, m_database,    u"--bas"_s,
+                                u"1.3.2012"_s, u"--bit"_s, u"31.5.2012"_s};
+        const QString csv = m_folder.filePath(u"model.csv"_s);
+        const Outcome outcome = kuyum(
+            model + QStringList{u"--bol"_s, u"tip"_s, u"--firma"_s, u"10"_s, u"--ulke"_s, u"1"_s,
+                                u"--model"_s, u"a"_s, u"--tip"_s, u"2"_s, u"--csv"_s, csv});
+        QCOMPARE(outcome.exitCode, 0);
+        QFile file(csv);
+        QVERIFY(file.open(QFile::ReadOnly));
+        QCOMPARE(QString::fromUtf8(file.readAll()),
+                 u"\"KOD\",\"Adet(Kolye)\",\"Adet(Küpe)\",\"Adet(Yüzük)\",\"TOPLAM ADET\"\n"
+                 "\"A75\",1,,3,4\n\"TOPLAM\",1,0,3,4\n"_s);
+
+        const QString pdf = m_folder.filePath(u"model.pdf"_s);
+        QCOMPARE(kuyum(model + QStringList{u"--firma"_s, u"20"_s, u"--pdf"_s, pdf}).exitCode, 0);
+        QCOMPARE(pdfWord(pdf, u"O'Hara"_s).page, 1);
+        QCOMPARE(pdfWord(pdf, u"Sayfa"_s).page, 1);
+
+        const Outcome nothing =
+            kuyum(model + QStringList{u"--firma"_s, u"99"_s, u"--pdf"_s, pdf + u"x"_s});
+        QCOMPARE(nothing.exitCode, 1);
+        QVERIFY2(nothing.error.endsWith(u"Kayıt Bulunamadi\n"_s), qPrintable(nothing.error));
+        QVERIFY(!QFile::exists(pdf + u"x"_s));
     }
 
     void aSelectGivesCsv()
