@@ -145,7 +145,7 @@ void Rapor_Siparis::connectTab(int place)
 
 void Rapor_Siparis::connectChart()
 {
-    const auto showChart = [this] { m_ui->grafik->setVisible(m_ui->cmdGrafik->isChecked()); };
+    const auto showChart = [this] { m_ui->grafikPaneli->setVisible(m_ui->cmdGrafik->isChecked()); };
     connect(m_ui->cmdGrafik, &QPushButton::toggled, this, showChart);
     showChart();
     for (QPushButton *button : {m_ui->cmdGrafikKaydet, m_ui->cmdGrafikYazdir})
@@ -158,9 +158,12 @@ void Rapor_Siparis::connectChart()
 
 // Keys
 
-/// The cursor goes where the report begins, and Enter runs the tab's report.
+/// The cursor goes where the report begins, and Enter runs the tab's report. The
+/// way out stands on every tab: below them it would cost the grids two rows.
 void Rapor_Siparis::enterTab(int place)
 {
+    const std::array<QHBoxLayout *, 3> lowest{m_ui->altSatir0, m_ui->altSatir1, m_ui->altSatir2};
+    lowest[place]->addWidget(m_ui->cmdSon);
     m_sekmeler[place].run->setDefault(true);
     m_sekmeler[place].bas->setFocus(Qt::TabFocusReason);
 }
