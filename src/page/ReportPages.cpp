@@ -54,7 +54,11 @@ private:
     void rule()
     {
         constexpr Twips above(20);
-        m_document.line({margin, m_y - above}, {margin + character * m_width, m_y - above});
+        if (m_slice->isEmpty())
+            return;
+        const ReportPageColumn &last = m_slice->last().place;
+        m_document.line({margin, m_y - above},
+                        {margin + character * (last.at + last.width), m_y - above});
     }
     Twips lastLine() const { return m_document.height() - margin - lineHeight * 2; }
 

@@ -11,6 +11,7 @@
 #include <QRegularExpression>
 #include <QStorageInfo>
 #include <QTemporaryDir>
+#include <utility>
 #include <xlsxwriter.h>
 
 using namespace Qt::StringLiterals;
@@ -48,33 +49,76 @@ double textWidth(const QString &text)
     return width;
 }
 
-/// Writes one sheet, row after row.
-class SheetWriter
+/// The file while it is being written, and a folder for what that takes.
+class SheetBook
 {
 public:
-    SheetWriter(const ReportSheet &sheet, const WholeFile &target)
-        : m_sheet(sheet),
-          m_table(sheet.table),
-          m_target(target),
-          m_thumbnails(sheet, m_folder.path())
+    explicit SheetBook(const WholeFile &target) : m_target(target)
     {
-        if (!m_folder.isValid())
+        QByteArray folder = QFile::encodeName(m_folder.path());
+        lxw_workbook_options options{};
+        options.constant_memory = LXW_TRUE;
+        options.tmpdir = folder.data();
+        options.use_zip64 = LXW_TRUE;
+        if (m_folder.isValid())
+            m_book = workbook_new_opt(QFile::encodeName(file()).constData(), &options);
+        if (m_book == nullptr)
             target.refuseFullDisk();
-        for (qsizetype column = 0; column < m_table.columns.size(); ++column) {
-            if (!m_table.columns[column].hidden)
-                m_columns.append(column);
-        }
     }
-    SheetWriter(const SheetWriter &) = delete;
-    SheetWriter &operator=(const SheetWriter &) = delete;
-    ~SheetWriter()
+    SheetBook(const SheetBook &) = delete;
+    SheetBook &operator=(const SheetBook &) = delete;
+    ~SheetBook()
     {
         if (m_book != nullptr)
             lxw_workbook_free(m_book);
     }
 
-    bool write(const SheetProgress &progress);
+    lxw_workbook *book() const { return m_book; }
+    QString folder() const { return m_folder.path(); }
     QString file() const { return m_folder.filePath(u"rapor.xlsx"_s); }
+
+    void close()
+    {
+        checkRoom();
+        check(workbook_close(std::exchange(m_book, nullptr)));
+    }
+    void check(lxw_error error) const
+    {
+        if (error != LXW_NO_ERROR)
+            m_target.refuse(QString::fromUtf8(lxw_strerror(error)));
+    }
+    /// The library does not notice when its own files find no room.
+    void checkRoom() const
+    {
+        const QStorageInfo disk(m_folder.path());
+        if (disk.isValid() && disk.bytesAvailable() < leastRoom)
+            m_target.refuse(u"Geçici klasörde yer kalmadı; disk dolu."_s);
+    }
+    [[noreturn]] void refuse(const QString &reason) const { m_target.refuse(reason); }
+
+private:
+    const WholeFile &m_target;
+    QTemporaryDir m_folder;
+    lxw_workbook *m_book = nullptr;
+};
+
+/// Writes one sheet, row after row.
+class SheetWriter
+{
+public:
+    SheetWriter(const ReportSheet &sheet, const SheetBook &book, qsizetype number)
+        : m_sheet(sheet),
+          m_table(sheet.table),
+          m_book(book),
+          m_thumbnails(sheet, book.folder() + u"/%1-"_s.arg(number))
+    {
+        for (qsizetype column = 0; column < m_table.columns.size(); ++column) {
+            if (!m_table.columns[column].hidden)
+                m_columns.append(column);
+        }
+    }
+
+    bool write(const SheetProgress &progress);
 
 private:
     bool figures() const { return m_sheet.form == SheetForm::Sayilarla; }
@@ -88,18 +132,15 @@ private:
     void writeText(lxw_col_t at, const QString &text, lxw_format *format);
     void finish();
     lxw_format *format(ReportRowKind kind, const QString &picture, bool right);
-    void check(lxw_error error) const;
-    void checkRoom() const;
+    void check(lxw_error error) const { m_book.check(error); }
 
     const ReportSheet &m_sheet;
     const ReportTable &m_table;
-    const WholeFile &m_target;
-    QTemporaryDir m_folder;
+    const SheetBook &m_book;
     SheetThumbnails m_thumbnails;
     QList<qsizetype> m_columns; ///< those that are shown
     QList<double> m_widths;     ///< of the sheet's columns
     QHash<QString, lxw_format *> m_formats;
-    lxw_workbook *m_book = nullptr;
     lxw_worksheet *m_page = nullptr;
     lxw_row_t m_row = 0;
     lxw_row_t m_headingRow = 0;
@@ -115,13 +156,12 @@ bool SheetWriter::write(const SheetProgress &progress)
     writeHeading();
     for (int row = 0; row < total; ++row) {
         if (row % progressStep == 0) {
-            checkRoom();
+            m_book.checkRoom();
             if (!progress(row, total))
                 return false;
         }
         writeRow(row);
     }
-    checkRoom();
     finish();
     return progress(total, total);
 }
@@ -130,17 +170,10 @@ void SheetWriter::open()
 {
     // Two rows for title and heading.
     if (m_table.rows.size() + 2 > LXW_ROW_MAX || m_columns.size() * 2 > LXW_COL_MAX)
-        m_target.refuse(u"Rapor bir Excel sayfasına sığmıyor."_s);
-    QByteArray folder = QFile::encodeName(m_folder.path());
-    lxw_workbook_options options{};
-    options.constant_memory = LXW_TRUE;
-    options.tmpdir = folder.data();
-    options.use_zip64 = LXW_TRUE;
-    m_book = workbook_new_opt(QFile::encodeName(file()).constData(), &options);
-    if (m_book != nullptr)
-        m_page = workbook_add_worksheet(m_book, "Rapor");
+        m_book.refuse(u"Rapor bir Excel sayfasına sığmıyor."_s);
+    m_page = workbook_add_worksheet(m_book.book(), m_sheet.ad.toUtf8().constData());
     if (m_page == nullptr)
-        m_target.refuseFullDisk();
+        m_book.refuse(u"Excel sayfası açılamadı."_s);
     if (m_thumbnails.any())
         worksheet_set_default_row(m_page, pictureRowPoints, LXW_FALSE);
 }
@@ -284,9 +317,6 @@ void SheetWriter::finish()
         }
     }
     worksheet_set_selection(m_page, 0, 0, 0, 0);
-    const lxw_error error = workbook_close(m_book);
-    m_book = nullptr;
-    check(error);
 }
 
 /// Made once for each look: headings and captions, lines, totals.
@@ -296,7 +326,7 @@ lxw_format *SheetWriter::format(ReportRowKind kind, const QString &picture, bool
     lxw_format *&made = m_formats[name];
     if (made != nullptr)
         return made;
-    made = workbook_add_format(m_book);
+    made = workbook_add_format(m_book.book());
     format_set_align(made, LXW_ALIGN_VERTICAL_CENTER);
     if (right)
         format_set_align(made, LXW_ALIGN_RIGHT);
@@ -309,31 +339,26 @@ lxw_format *SheetWriter::format(ReportRowKind kind, const QString &picture, bool
     return made;
 }
 
-void SheetWriter::check(lxw_error error) const
-{
-    if (error != LXW_NO_ERROR)
-        m_target.refuse(QString::fromUtf8(lxw_strerror(error)));
-}
-
-/// The library does not notice when its own files find no room.
-void SheetWriter::checkRoom() const
-{
-    if (const QStorageInfo disk(m_folder.path());
-        disk.isValid() && disk.bytesAvailable() < leastRoom)
-        m_target.refuse(u"Geçici klasörde yer kalmadı; disk dolu."_s);
-}
-
 } // namespace
 
-bool writeSheet(const ReportSheet &sheet, const QString &path, const SheetProgress &progress)
+bool writeSheets(const QList<ReportSheet> &sheets, const QString &path,
+                 const SheetProgress &progress)
 {
     const WholeFile target(u"Excel"_s, path);
-    SheetWriter writer(sheet, target);
-    if (!writer.write(progress))
-        return false;
-    QFile written(writer.file());
+    SheetBook book(target);
+    for (qsizetype i = 0; i < sheets.size(); ++i) {
+        if (!SheetWriter(sheets[i], book, i).write(progress))
+            return false;
+    }
+    book.close();
+    QFile written(book.file());
     if (!written.open(QIODevice::ReadOnly))
         target.refuseFullDisk();
     target.write(written);
     return true;
+}
+
+bool writeSheet(const ReportSheet &sheet, const QString &path, const SheetProgress &progress)
+{
+    return writeSheets({sheet}, path, progress);
 }

@@ -20,7 +20,8 @@ struct ReportSheet
     ReportTable table;
     QString baslik; ///< for the first cell; may be empty
     SheetForm form = SheetForm::Metin;
-    PictureFinder picture{}; ///< may be empty; only figures have pictures beside them
+    PictureFinder picture{};              ///< may be empty; only figures have pictures beside them
+    QString ad = QStringLiteral("Rapor"); ///< the sheet's name in the file
 };
 
 /// Writes a report as a spreadsheet. The title stands in the first cell, the
@@ -30,3 +31,6 @@ struct ReportSheet
 /// False, with nothing at the path, when it was stopped. Throws
 /// std::runtime_error with a Turkish text; what was at the path stays then.
 bool writeSheet(const ReportSheet &sheet, const QString &path, const SheetProgress &progress);
+/// The same for several in one file, a sheet each.
+bool writeSheets(const QList<ReportSheet> &sheets, const QString &path,
+                 const SheetProgress &progress);

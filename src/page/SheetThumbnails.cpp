@@ -21,8 +21,8 @@ QString key(const QString &model)
 
 } // namespace
 
-SheetThumbnails::SheetThumbnails(const ReportSheet &sheet, const QString &folder)
-    : m_sheet(sheet), m_folder(folder)
+SheetThumbnails::SheetThumbnails(const ReportSheet &sheet, const QString &prefix)
+    : m_sheet(sheet), m_prefix(prefix)
 {
 }
 
@@ -57,7 +57,7 @@ SheetThumbnails::Thumbnail SheetThumbnails::makeOne(const QString &path, qsizety
         return {};
     image.setDotsPerMeterX(screenDots);
     image.setDotsPerMeterY(screenDots);
-    const QString file = m_folder + u"/%1.jpg"_s.arg(number);
+    const QString file = m_prefix + u"%1.jpg"_s.arg(number);
     if (!image.save(file, "JPEG", thumbnailQuality))
         throw std::runtime_error(
             u"Geçici klasöre resim yazılamadı; disk dolu olabilir."_s.toStdString());

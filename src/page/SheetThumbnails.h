@@ -18,8 +18,9 @@ public:
         double scale = 1; ///< at which it fits into the box
     };
 
-    /// The files go into the folder, which must outlive this.
-    SheetThumbnails(const ReportSheet &sheet, const QString &folder);
+    /// The files' names begin with the prefix, their folder included; it must
+    /// outlive this.
+    SheetThumbnails(const ReportSheet &sheet, const QString &prefix);
 
     /// Makes them; false when it was stopped.
     bool make(const SheetProgress &progress);
@@ -30,7 +31,7 @@ private:
     Thumbnail makeOne(const QString &path, qsizetype number) const;
 
     const ReportSheet &m_sheet;
-    QString m_folder;
+    QString m_prefix;
     QHash<QString, Thumbnail> m_thumbnails; ///< by folded model code
     bool m_any = false;
 };

@@ -15,11 +15,11 @@ ExcelKutusu::ExcelKutusu(QWidget *parent)
 {
     m_excel->setObjectName(u"Check_Excel"_s);
     m_excel->setAccessibleName(u"Raporu Excel'e aktar"_s);
-    m_excel->setToolTip(u"Raporu Excel'e aktarır (Alt+X)"_s);
+    m_excel->setToolTip(u"Raporu Excel'e aktarır"_s);
     m_figures->setObjectName(u"Check_Sayilarla"_s);
     m_figures->setAccessibleName(u"Excel'e sayılarla aktar"_s);
     m_figures->setToolTip(u"Miktar ve tarihler metin olarak değil, hesaplanabilir sayılar olarak\n"
-                          "gider; modellerin yanında resimleri durur (Alt+S)"_s);
+                          "gider; modellerin yanında resimleri durur"_s);
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     layout->addWidget(m_excel);
@@ -33,6 +33,12 @@ void ExcelKutusu::setExport(const ExcelAktar &excel, Messages &messages, Source 
     m_aktar = &excel;
     m_messages = &messages;
     m_source = std::move(source);
+}
+
+void ExcelKutusu::setTexts(const QString &excel, const QString &figures)
+{
+    m_excel->setText(excel);
+    m_figures->setText(figures);
 }
 
 void ExcelKutusu::ticked()

@@ -24,6 +24,9 @@ public:
     /// Called once; both references must outlive the box.
     void setExport(const ExcelAktar &excel, Messages &messages, Source source);
 
+    /// Other texts, for a second box on the same screen, with keys of their own.
+    void setTexts(const QString &excel, const QString &figures);
+
 private:
     void ticked();
 

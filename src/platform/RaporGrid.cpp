@@ -20,6 +20,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr int narrowestColumn = 64;
 constexpr int widestColumn = 420;
 constexpr qsizetype measuredRows = 1000;
 
@@ -41,6 +42,22 @@ protected:
         tint.setAlpha(kind == ReportRowKind::Total ? 56 : 40);
         option->features.setFlag(QStyleOptionViewItem::Alternate, false);
         option->backgroundBrush = tint;
+    }
+};
+
+/// Its texts stand as far from the columns' edges as those of the cells.
+class RaporHeading : public QHeaderView
+{
+public:
+    RaporHeading() : QHeaderView(Qt::Horizontal) { setHighlightSections(false); }
+
+protected:
+    void initStyleOptionForIndex(QStyleOptionHeader *option, int column) const override
+    {
+        QHeaderView::initStyleOptionForIndex(option, column);
+        const QChar thinSpace(0x2009);
+        const bool right = option->textAlignment.testFlag(Qt::AlignRight);
+        option->text = right ? option->text + thinSpace : thinSpace + option->text;
     }
 };
 
@@ -103,7 +120,7 @@ QTableView *RaporGrid::makeView(const QString &name, RaporModel *model)
     view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() +
                                                   ListCellDelegate::lineSpace);
-    view->horizontalHeader()->setHighlightSections(false);
+    view->setHorizontalHeader(new RaporHeading);
     view->installEventFilter(this);
     connect(view, &QTableView::doubleClicked, this,
             [this, view](const QModelIndex &cell) { activate(view, cell); });
@@ -116,6 +133,8 @@ void RaporGrid::keepInStep()
 {
     QScrollBar *rows = m_rows->horizontalScrollBar();
     QScrollBar *total = m_total->horizontalScrollBar();
+    m_across->setRange(0, 0);
+    m_across->hide();
     connect(rows, &QScrollBar::rangeChanged, this, [this, rows](int least, int most) {
         m_across->setRange(least, most);
         m_across->setPageStep(rows->pageStep());
@@ -152,8 +171,10 @@ void RaporGrid::setTable(const ReportTable &table)
     m_sortColumn = -1;
     m_rows->horizontalHeader()->setSortIndicatorShown(false);
     fitColumns();
-    if (const QList<int> shown = shownColumns(); count > 0 && !shown.isEmpty())
-        m_rows->setCurrentIndex(m_rowModel->index(0, shown.first()));
+    if (const QList<int> shown = shownColumns(); count > 0 && !shown.isEmpty()) {
+        const bool captioned = count > 1 && m_table->rows.first().kind == ReportRowKind::Caption;
+        m_rows->setCurrentIndex(m_rowModel->index(captioned ? 1 : 0, shown.first()));
+    }
 }
 
 ReportTable RaporGrid::table() const
@@ -231,7 +252,7 @@ int RaporGrid::columnFit(int column) const
         for (const qsizetype row : {longest, least, most})
             measure(row);
     }
-    return qMin(widest + 2 * ListCellDelegate::padding + 4, widestColumn);
+    return qBound(narrowestColumn, widest + 2 * ListCellDelegate::padding + 4, widestColumn);
 }
 
 int RaporGrid::fittingWidth() const
