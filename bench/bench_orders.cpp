@@ -201,7 +201,7 @@ void measureScreen(Oturum &oturum, int runs)
     const auto noList = [](QWidget *, const LookupRequest &) { return LookupAnswer(); };
     const QTemporaryDir settingsFolder;
     QSettings settings(settingsFolder.filePath(u"ayarlar.ini"_s), QSettings::IniFormat);
-    Giris_Siparis screen({oturum, messages, noList, viewer}, settings);
+    Giris_Siparis screen({oturum, messages, noList, viewer}, settings, OrderReports{});
     screen.show();
     auto *clear = screen.findChild<QPushButton *>(u"cmdvazgec"_s);
     const double opening = middleMilliseconds(

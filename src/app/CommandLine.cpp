@@ -26,7 +26,10 @@ constexpr Command commands[] = {
      true},
     {u"rapor",
      u"kuyum rapor tas|kalip|model VERITABANI --bas G.A.Y --bit G.A.Y --csv|--xlsx|--pdf DOSYA\n"
-     "              (model için: [--bol ayar|tip] [--firma N] [--ulke N] [--model ONEK] [--tip N])",
+     "              (model için: [--bol ayar|tip] [--firma N] [--ulke N] [--model ONEK] [--tip "
+     "N])\n"
+     "  kuyum rapor siparis-tas|yarimamul VERITABANI SIPARIS [--tarih G.A.Y] [--doviz USD] "
+     "--csv|--xlsx|--pdf DOSYA",
      raporCommand, true},
     {u"sorgu", u"kuyum sorgu VERITABANI \"SELECT ...\"", sorguCommand},
     {u"demo", u"kuyum demo KLASOR [--olcek N]", demoCommand, true},

@@ -3,6 +3,8 @@
 #include "Giris_Kur.h"
 #include "Giris_Siparis.h"
 #include "Rapor_Siparis.h"
+#include "Rapor_Siparis2.h"
+#include "Rapor_Ymamul.h"
 #include "ScreenServices.h"
 #include "Tanim_Ayar.h"
 #include "Tanim_Barkod.h"
@@ -57,6 +59,25 @@ ScreenFactory modelScreen(ScreenServices &services)
     };
 }
 
+/// Opens a report on an order, modally.
+template <typename Report>
+OrderReportOpener orderReport(ScreenServices &services)
+{
+    return [&services](QWidget *parent, qint32 SecilenNo) {
+        Report(services.reportContext(), SecilenNo, parent).exec();
+    };
+}
+
+ScreenFactory orderScreen(ScreenServices &services)
+{
+    return [&services](QWidget *parent) {
+        return std::make_unique<Giris_Siparis>(services.context(), services.settings,
+                                               OrderReports{orderReport<Rapor_Siparis2>(services),
+                                                            orderReport<Rapor_Ymamul>(services)},
+                                               parent);
+    };
+}
+
 } // namespace
 
 MenuScreens menuTable(ScreenServices &services)
@@ -73,7 +94,7 @@ MenuScreens menuTable(ScreenServices &services)
              return std::make_unique<Tanim_Barkod>(services.context(), services.labelPrinter,
                                                    parent);
          }},
-        {7, rememberingScreen<Giris_Siparis>(services)},
+        {7, orderScreen(services)},
         {8, screen<Tanim_Ayar>(services)},
         {9, screen<Tanim_Renk>(services)},
         {11, reportScreen<Rapor_Siparis>(services)},

@@ -6,7 +6,9 @@
 #include "Oturum.h"
 #include "ReadableDatabase.h"
 #include "ReportOutput.h"
+#include "ReportPages.h"
 #include "ReportPictures.h"
+#include "SiparisRaporCommand.h"
 
 #include <QCommandLineParser>
 #include <stdexcept>
@@ -80,9 +82,11 @@ ReportMaker reportMaker(const QString &kind, const QCommandLineParser &parser)
 } // namespace
 
 /// kuyum rapor tas|kalip|model DATABASE --bas D.M.Y --bit D.M.Y ...: an order
-/// report, as from the screen.
+/// report, as from the screen. The reports on one order have words of their own.
 int raporCommand(const QStringList &arguments)
 {
+    if (isOrderReport(arguments.value(0)))
+        return siparisRaporCommand(arguments);
     QCommandLineParser parser;
     parser.addOptions({{u"bas"_s, {}, u"TARIH"_s}, {u"bit"_s, {}, u"TARIH"_s}});
     for (const QString &option : modelOptions)
@@ -104,6 +108,8 @@ int raporCommand(const QStringList &arguments)
     const auto goOn = [](int, int) { return true; };
     if (report->read(goOn) == OrderReport::Outcome::NothingFound || !report->table().hasLines())
         throw std::runtime_error(u"Kayıt Bulunamadi"_s.toStdString());
-    output.write(report->table(), report->header(), reportPictures(oturum));
+    const ReportTable &table = report->table();
+    output.write({{table, table.title, SheetForm::Sayilarla, reportPictures(oturum)}},
+                 [&] { return reportPages(table.title, report->header(), {{table}}); });
     return 0;
 }

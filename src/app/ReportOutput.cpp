@@ -2,23 +2,25 @@
 
 #include "CommandLine.h"
 #include "Csv.h"
-#include "ReportPages.h"
 
-#include <algorithm>
 #include <QCommandLineParser>
 
 using namespace Qt::StringLiterals;
 
-void ReportOutput::write(const ReportTable &table, const QStringList &header,
-                         const PictureFinder &pictures) const
+void ReportOutput::write(const QList<ReportSheet> &sheets,
+                         const std::function<PrintDocument()> &pages) const
 {
     const auto goOn = [](int, int) { return true; };
-    if (!csv.isEmpty())
-        writeCsv(table, csv);
-    else if (!xlsx.isEmpty())
-        writeSheet({table, table.title, SheetForm::Sayilarla, pictures}, xlsx, goOn);
-    else
-        writePdf(reportPages(table.title, header, {{table}}), pdf);
+    if (!csv.isEmpty()) {
+        QList<ReportTable> tables;
+        for (const ReportSheet &sheet : sheets)
+            tables.append(sheet.table);
+        writeCsv(tables, csv);
+    } else if (!xlsx.isEmpty()) {
+        writeSheets(sheets, xlsx, goOn);
+    } else {
+        writePdf(pages(), pdf);
+    }
 }
 
 void addReportOutput(QCommandLineParser &parser)

@@ -1,20 +1,22 @@
 #pragma once
 
+#include "PrintDocument.h"
 #include "ReportSheet.h"
 
 class QCommandLineParser;
 
-/// Where a word of the command line puts its report: into a CSV, spreadsheet or
-/// PDF file.
+/// Where a word of the command line puts its report: into a CSV file, a
+/// spreadsheet or a PDF.
 struct ReportOutput
 {
     QString csv;
     QString xlsx;
     QString pdf;
 
-    /// The header stands above the table on paper.
-    void write(const ReportTable &table, const QStringList &header,
-               const PictureFinder &pictures) const;
+    /// Tables of one report stand one below the other in the CSV, and on sheets
+    /// of their own in the spreadsheet. The pages are laid out only when they
+    /// are wanted.
+    void write(const QList<ReportSheet> &sheets, const std::function<PrintDocument()> &pages) const;
 };
 
 /// Adds --csv, --xlsx and --pdf.

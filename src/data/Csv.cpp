@@ -87,11 +87,16 @@ QString csvRow(const ReportTable &table, qsizetype row)
     return values.join(u',');
 }
 
-void writeCsv(const ReportTable &table, const QString &path)
+void writeCsv(const QList<ReportTable> &tables, const QString &path)
 {
     const WholeFile file(u"CSV"_s, path);
-    QByteArray bytes = csvHeader(table).toUtf8() + '\n';
-    for (qsizetype row = 0; row < table.rows.size(); ++row)
-        bytes += csvRow(table, row).toUtf8() + '\n';
+    QByteArray bytes;
+    for (const ReportTable &table : tables) {
+        if (!bytes.isEmpty())
+            bytes += '\n';
+        bytes += csvHeader(table).toUtf8() + '\n';
+        for (qsizetype row = 0; row < table.rows.size(); ++row)
+            bytes += csvRow(table, row).toUtf8() + '\n';
+    }
     file.write(bytes);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 class Recordset;
@@ -15,5 +16,6 @@ QString csvRow(const Recordset &rows);
 /// A report in the same form; its hidden columns are left out.
 QString csvHeader(const ReportTable &table);
 QString csvRow(const ReportTable &table, qsizetype row);
-/// Its heading and all its rows into a file; throws as WholeFile does.
-void writeCsv(const ReportTable &table, const QString &path);
+/// Headings and rows of the tables into a file, an empty line between two of
+/// them; throws as WholeFile does.
+void writeCsv(const QList<ReportTable> &tables, const QString &path);

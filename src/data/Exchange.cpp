@@ -8,9 +8,15 @@
 
 using namespace Qt::StringLiterals;
 
-static double rateOf(Database &db, QDate date, const QString &code, const QString &localCode)
+static QString localCurrency(Database &db)
 {
-    if (code.trimmed() == localCode)
+    Recordset local = db.query(u"SELECT * From DovizB WHERE Dovulke = 1"_s);
+    return local.next() ? local.text(u"Dovcinsi").trimmed() : QString();
+}
+
+double KurBul(Database &db, QDate date, const QString &code)
+{
+    if (code.trimmed() == localCurrency(db))
         return 1;
     Recordset rate = db.query(u"SELECT * From DovizD WHERE Tarih = "_s + sqlDate(date) +
                               u" and Dovcinsi = "_s + sqlText(code));
@@ -20,12 +26,10 @@ static double rateOf(Database &db, QDate date, const QString &code, const QStrin
 double KurCevir(Database &db, QDate date, double amount, const QString &source,
                 const QString &target)
 {
-    Recordset local = db.query(u"SELECT * From DovizB WHERE Dovulke = 1"_s);
-    const QString localCode = local.next() ? local.text(u"Dovcinsi").trimmed() : QString();
-    const double targetRate = rateOf(db, date, target, localCode);
+    const double targetRate = KurBul(db, date, target);
     if (targetRate <= 0)
         return 0;
-    return roundDecimal(amount * rateOf(db, date, source, localCode) / targetRate, 2);
+    return roundDecimal(amount * KurBul(db, date, source) / targetRate, 2);
 }
 
 double YogunlukBul(Database &db, double milyem)

@@ -5,6 +5,10 @@
 
 class Database;
 
+/// The selling rate of a currency on a date: 1 for the local one, 0 where there
+/// is none.
+double KurBul(Database &db, QDate date, const QString &code);
+
 /// An amount in another currency at the rates of one date, rounded to 2
 /// decimals; 0 when the target currency has no rate on that date.
 double KurCevir(Database &db, QDate date, double amount, const QString &source,

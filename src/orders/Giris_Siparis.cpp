@@ -15,10 +15,12 @@
 
 using namespace Qt::StringLiterals;
 
-Giris_Siparis::Giris_Siparis(const ScreenContext &context, QSettings &settings, QWidget *parent)
+Giris_Siparis::Giris_Siparis(const ScreenContext &context, QSettings &settings,
+                             OrderReports reports, QWidget *parent)
     : QDialog(parent, Qt::Window),
       m_context(context),
       m_settings(settings),
+      m_reports(std::move(reports)),
       m_store(context.oturum),
       m_lookups(context.oturum),
       m_ui(std::make_unique<Ui::Giris_Siparis>()),
@@ -101,6 +103,12 @@ void Giris_Siparis::connectControls()
     bind(m_ui->Command1, &Giris_Siparis::saveAsNew);
     bind(m_ui->cmdsil, &Giris_Siparis::removeOrder);
     bind(m_ui->cmdYazdir, &Giris_Siparis::print);
+    for (const auto &[button, report] :
+         {std::pair{m_ui->cmdTAS, &m_reports.tas}, std::pair{m_ui->CmdYmamul, &m_reports.ymamul}}) {
+        connect(button, &QPushButton::clicked, this, [this, report] {
+            guarded(m_context.messages, this, [&] { openReport(*report); });
+        });
+    }
     bind(m_ui->cmdListe, &Giris_Siparis::pickOrder);
     bind(m_ui->cmdvazgec, &Giris_Siparis::abandon);
     bind(m_ui->cmdSon, &Giris_Siparis::reject);
@@ -191,7 +199,8 @@ void Giris_Siparis::setEditing(bool on)
         control->setEnabled(!on);
     for (QWidget *control : std::initializer_list<QWidget *>{
              m_ui->SipTrh, m_ui->FirAdi, m_ui->TesTrh, m_ui->Ayar, m_ui->Patent, m_ui->Aciklama,
-             m_ui->Rapor, m_ui->cmdvazgec, m_ui->cmdKayit, m_ui->cmdYazdir})
+             m_ui->Rapor, m_ui->cmdvazgec, m_ui->cmdKayit, m_ui->cmdYazdir, m_ui->cmdTAS,
+             m_ui->CmdYmamul})
         control->setEnabled(on);
     for (QWidget *control : std::initializer_list<QWidget *>{m_ui->cmdsil, m_ui->Command1})
         control->setEnabled(on && m_stored != 0);

@@ -6,6 +6,7 @@
 #include "SiparisKontrol.h"
 #include "SiparisStore.h"
 
+#include <functional>
 #include <memory>
 #include <QDialog>
 
@@ -17,6 +18,16 @@ namespace Ui {
 class Giris_Siparis;
 }
 
+/// Opens a report on a stored order, whose number is the answer `SecilenNo` of
+/// the screen; handed in by the program.
+using OrderReportOpener = std::function<void(QWidget *parent, qint32 SecilenNo)>;
+
+struct OrderReports
+{
+    OrderReportOpener tas;    ///< its stones
+    OrderReportOpener ymamul; ///< its semi-finished pieces
+};
+
 /// Order entry. In the order-number state only the number and the list live;
 /// in the editing state an order, found or new, stands on the screen.
 class Giris_Siparis : public QDialog
@@ -25,7 +36,8 @@ class Giris_Siparis : public QDialog
 
 public:
     /// The settings remember how the slip is wanted.
-    Giris_Siparis(const ScreenContext &context, QSettings &settings, QWidget *parent = nullptr);
+    Giris_Siparis(const ScreenContext &context, QSettings &settings, OrderReports reports,
+                  QWidget *parent = nullptr);
     ~Giris_Siparis() override;
 
     /// Leaves the screen, unless the user wants to keep what is not saved yet.
@@ -83,6 +95,8 @@ private:
     void removeOrder();
     void afterSave(const Siparis &siparis);
 
+    void openReport(const OrderReportOpener &report);
+
     // The slip
     void readSlipChoice();
     void keepSlipChoice();
@@ -94,6 +108,7 @@ private:
 
     ScreenContext m_context;
     QSettings &m_settings;
+    OrderReports m_reports;
     SiparisStore m_store;
     OrderLookups m_lookups;
     std::unique_ptr<Ui::Giris_Siparis> m_ui;

@@ -1,14 +1,16 @@
 #include "Giris_Siparis.h"
 
 #include "DocumentViewer.h"
+#include "Numbers.h"
 #include "ui_Giris_Siparis.h"
 
+#include <limits>
 #include <QProgressDialog>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
 
-/// The order entry screen: the slip and how the user wants it.
+/// The order entry screen: the slip and how the user wants it, and the reports.
 
 namespace {
 
@@ -107,4 +109,12 @@ void Giris_Siparis::showSlip(const Siparis &siparis)
     progress.reset();
     if (slip)
         m_context.viewer.show(this, *slip);
+}
+
+/// A report reads the order as it is stored; a new one has nothing to report yet.
+void Giris_Siparis::openReport(const OrderReportOpener &report)
+{
+    const double number = leadingNumber(m_ui->Sipnum->text());
+    if (number > 0 && number <= std::numeric_limits<qint32>::max())
+        report(this, qint32(number));
 }

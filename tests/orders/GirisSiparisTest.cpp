@@ -43,7 +43,10 @@ struct Screen : OrderFixture, Keyboard
                               return answers.isEmpty() ? LookupAnswer() : answers.takeFirst();
                           },
                           viewer},
-            settings);
+            settings,
+            OrderReports{
+                [this](QWidget *, qint32 order) { reports.append(u"tas %1"_s.arg(order)); },
+                [this](QWidget *, qint32 order) { reports.append(u"ymamul %1"_s.arg(order)); }});
         screen->show();
         QVERIFY(QTest::qWaitForWindowActive(screen.get()));
     }
@@ -102,6 +105,7 @@ struct Screen : OrderFixture, Keyboard
     KeptDocuments viewer;
     QSettings settings{dir.filePath(u"ayarlar.ini"_s), QSettings::IniFormat};
     QList<LookupRequest> asked;
+    QStringList reports; ///< those that were opened
     QList<LookupAnswer> answers;
     std::unique_ptr<Giris_Siparis> screen;
 };
@@ -239,10 +243,11 @@ void GirisSiparisTest::walksThroughTheStates()
         return names.join(u' ');
     };
     const QString editing =
-        u"FirAdi TesTrh Ayar Patent Aciklama Rapor cmdvazgec cmdKayit%1 cmdYazdir"_s;
+        u"FirAdi TesTrh Ayar Patent Aciklama Rapor cmdvazgec cmdKayit%1 cmdYazdir cmdTAS CmdYmamul"_s;
     QCOMPARE(enabled(), u"Sipnum cmdListe"_s);
     s.find();
     QCOMPARE(enabled(), editing.arg(QString()));
+    s.press(u"cmdTAS"_s); // a new order has none
     s.key(Qt::Key_Escape);
     QCOMPARE(enabled(), u"Sipnum cmdListe"_s);
     s.find(u"1"_s);
@@ -252,6 +257,9 @@ void GirisSiparisTest::walksThroughTheStates()
     QCOMPARE(s.text(u"FirAdi"_s), u"Işık Kuyumculuk"_s);
     QCOMPARE(s.cell(0, 3), u"3"_s);
     QCOMPARE(s.grid()->model()->rowCount(), 3); // an empty one for new input
+    s.press(u"cmdTAS"_s);
+    s.press(u"CmdYmamul"_s);
+    QCOMPARE(s.reports, (QStringList{u"tas 1"_s, u"ymamul 1"_s}));
     s.press(u"cmdvazgec"_s);
     QCOMPARE(s.text(u"FirAdi"_s) + s.text(u"Firkod"_s) + s.text(u"Ayar"_s), QString());
     s.answerList({}, 2);
