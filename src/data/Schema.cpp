@@ -90,7 +90,7 @@ QList<TableDef> masterTables()
         {u"Ayar"_s, {number(u"Milyem"_s), real(u"Yogunluk"_s)}, {key({u"Milyem"_s})}},
         {u"Katalog"_s,
          {text(u"KatAdi"_s, 40), longField(u"katno1"_s), real(u"katgram"_s),
-          text(u"kataciklama"_s, 100)},
+          text(u"kataciklama"_s, 100), number(u"katsira"_s)},
          {index({u"KatAdi"_s})}},
     };
 }

@@ -14,7 +14,7 @@ const QList<TableDef> &companyTables();
 const QList<TableDef> &registryTables();
 
 /// The layout version this program writes.
-constexpr int currentSchemaVersion = 1;
+constexpr int currentSchemaVersion = 2;
 
 /// Adds the tables, fields and indexes of the description that the file lacks.
 /// What is there stays as it is. An index that the rows forbid to be unique is

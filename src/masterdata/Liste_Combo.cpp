@@ -45,6 +45,10 @@ Liste_Combo::Liste_Combo(Oturum &oturum, Messages &messages, const LookupRequest
     QString hint = u"Enter : Seç  , Esc : Kapat  , F9 : Sırala"_s;
     if (m_list.source == LookupSource::Help)
         hint = u"Esc : Kapat  , F9 : Sırala"_s;
+    if (request.cokSecim) {
+        m_ui->Rapor->setSelectionMode(QAbstractItemView::ExtendedSelection);
+        hint += u"  , Shift+Ok, Ctrl+Tık : Birden çok seç"_s;
+    }
     m_ui->Ipucu->setText(m_list.hint.isEmpty() ? hint : m_list.hint + u"  , "_s + hint);
     m_ui->Resim->setVisible(m_list.picture != LookupPicture::None);
 
@@ -256,13 +260,27 @@ void Liste_Combo::sortBy(int column)
     m_model->sort(column, order);
 }
 
+/// The marked rows from top to bottom, or else the highlighted one.
+QList<int> Liste_Combo::chosenRows() const
+{
+    QList<int> rows;
+    for (const QModelIndex &cell : m_ui->Rapor->selectionModel()->selectedRows())
+        rows.append(cell.row());
+    if (rows.size() < 2)
+        return {qMax(0, m_ui->Rapor->currentIndex().row())};
+    std::sort(rows.begin(), rows.end());
+    return rows;
+}
+
 void Liste_Combo::take()
 {
     guarded(m_messages, this, [this] {
-        const int row = qMax(0, m_ui->Rapor->currentIndex().row());
+        const QList<int> rows = chosenRows();
         // A fast typist presses Enter before the first match was found.
-        if (m_model->waitForRow(row))
-            m_answer = lookupAnswer(m_list, m_model->values(row));
+        if (m_model->waitForRow(rows.last()))
+            m_answer = lookupAnswer(m_list, m_model->values(rows.first()));
+        for (qsizetype i = 0; rows.size() > 1 && i < rows.size(); ++i)
+            m_answer.Secilenler.push_back(lookupAnswer(m_list, m_model->values(rows[i])));
         accept();
     });
 }

@@ -44,6 +44,7 @@ private:
     void narrow(const QString &text);
     void sortBy(int column);
     void take();
+    QList<int> chosenRows() const;
     void narrowOrders();
     void rebindOrders(const QString &condition);
     void addHelp();

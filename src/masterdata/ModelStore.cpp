@@ -76,14 +76,20 @@ std::optional<Model> ModelStore::ModelBul(const QString &model, qint32 TipID) co
     return found;
 }
 
-std::optional<qint32> ModelStore::sonKayit(const QString &model, qint32 TipID) const
+QStringList ModelStore::kayitlar(const QString &model, qint32 TipID) const
 {
     Recordset Kayit = m_oturum->sorgula(u"Select Model_ID From Model "_s +
                                         keyCondition(model, TipID) + u" Order by Model_ID"_s);
-    std::optional<qint32> last;
+    QStringList ids;
     while (Kayit.next())
-        last = qint32(Kayit.integer(u"Model_ID"));
-    return last;
+        ids.append(sqlNumber(Kayit.integer(u"Model_ID")));
+    return ids;
+}
+
+std::optional<qint32> ModelStore::sonKayit(const QString &model, qint32 TipID) const
+{
+    const QStringList ids = kayitlar(model, TipID);
+    return ids.isEmpty() ? std::nullopt : std::optional(ids.last().trimmed().toInt());
 }
 
 QList<ModelSatiri> ModelStore::ModelDoldur(const QList<ModelSatiri> &stored) const
@@ -145,6 +151,7 @@ QString ModelStore::KisaADBul(const QString &model, qint32 TipID) const
 void ModelStore::save(Model &model, bool found) const
 {
     Transaction rewrite(*m_oturum->Veritabani);
+    const QString replaced = found ? kayitlar(model.ad, model.M_Uruntip).join(u", "_s) : QString();
     if (found)
         m_oturum->calistir(u"DELETE From Model "_s + keyCondition(model.ad, model.M_Uruntip));
     Recordset rows = m_oturum->Veritabani->table(u"Model"_s);
@@ -158,6 +165,10 @@ void ModelStore::save(Model &model, bool found) const
     if (!any)
         addRow(rows, model, {MalzemeTipi::Tas, {}, 0, 0});
     const auto id = qint32(rows.integer(u"Model_ID"));
+    // The new rows have new numbers; a catalogue would lose the model with the old ones.
+    if (!replaced.isEmpty())
+        m_oturum->calistir(u"UPDATE Katalog Set katno1 = "_s + sqlNumber(id) +
+                           u" Where katno1 In ("_s + replaced + u')');
     rewrite.commit();
     model.Model_ID = id;
 }

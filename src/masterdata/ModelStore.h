@@ -33,11 +33,14 @@ public:
 
     /// Writes the model's rows, one of a model without materials; those of a
     /// model that was found are replaced, in one transaction. Rows without a
-    /// code or a count are left out. `model` gets the last row's Model_ID.
+    /// code or a count are left out. `model` gets the last row's Model_ID, and so
+    /// do the catalogues that had one of the rows replaced.
     void save(Model &model, bool found) const;
     void remove(const QString &model, qint32 TipID) const;
 
 private:
+    /// The numbers of the model's records, as SQL writes them.
+    QStringList kayitlar(const QString &model, qint32 TipID) const;
     QList<ModelSatiri> ModelDoldur(const QList<ModelSatiri> &stored) const;
     /// The codes of a model's stones or molds by their numbers, read at once:
     /// asked for one by one they took most of the time of finding a model.

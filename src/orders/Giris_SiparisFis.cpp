@@ -2,10 +2,10 @@
 
 #include "DocumentViewer.h"
 #include "Numbers.h"
+#include "ReadingProgress.h"
 #include "ui_Giris_Siparis.h"
 
 #include <limits>
-#include <QProgressDialog>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -95,18 +95,10 @@ void Giris_Siparis::print()
 
 void Giris_Siparis::showSlip(const Siparis &siparis)
 {
-    QProgressDialog progress(u"Model resimleri okunuyor..."_s, u"Durdur"_s, 0, 0, this);
-    progress.setWindowTitle(u"SİPARİŞ LİSTESİ"_s);
-    progress.setWindowModality(Qt::WindowModal);
-    progress.setMinimumDuration(300);
-    const auto tell = [&progress](int done, int total) {
-        progress.setMaximum(total);
-        progress.setValue(done);
-        return !progress.wasCanceled();
-    };
     const std::optional<PrintDocument> slip =
-        orderSlip(m_context.oturum, siparis, slipChoice(), tell);
-    progress.reset();
+        makeWithProgress(this, u"SİPARİŞ LİSTESİ"_s, [&](const PictureProgress &progress) {
+            return orderSlip(m_context.oturum, siparis, slipChoice(), progress);
+        });
     if (slip)
         m_context.viewer.show(this, *slip);
 }

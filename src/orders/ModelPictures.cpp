@@ -1,6 +1,5 @@
 #include "ModelPictures.h"
 
-#include "PictureFiles.h"
 #include "TurkishText.h"
 
 static QString key(const QString &model)

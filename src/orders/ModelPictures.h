@@ -1,15 +1,12 @@
 #pragma once
 
 #include "OrderLookups.h"
+#include "PictureFiles.h"
 #include "Siparis.h"
 
-#include <functional>
 #include <QHash>
 #include <QImage>
 #include <QSize>
-
-/// Told how many of how many are done; false stops the work.
-using PictureProgress = std::function<bool(int done, int total)>;
 
 /// The pictures of an order's models, each read once and no larger than needed.
 /// The image that is handed out is always the same, so that a document with it

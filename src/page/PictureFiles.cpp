@@ -169,19 +169,6 @@ QImage onWhite(const QImage &image)
     return result;
 }
 
-/// In memory, so that what fails later is the disk and nothing else.
-QByteArray jpegBytes(const QImage &image, const QString &path)
-{
-    constexpr int quality = 92; // no loss that shows in print
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    QImageWriter writer(&buffer, "jpeg"_ba);
-    writer.setQuality(quality);
-    if (!writer.write(onWhite(image)))
-        refuse(u"Resim kaydedilemedi: "_s + QDir::toNativeSeparators(path), writer.errorString());
-    return bytes;
-}
-
 QString name(const QString &path)
 {
     return QFileInfo(path).fileName();
@@ -269,9 +256,22 @@ PictureResult fitPicture(const QImage &image, QSize maxSize)
             {}};
 }
 
+QByteArray jpegBytes(const QImage &image)
+{
+    constexpr int quality = 92; // no loss that shows in print
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    QImageWriter writer(&buffer, "jpeg"_ba);
+    writer.setQuality(quality);
+    if (!writer.write(onWhite(image)))
+        refuse(u"Resim JPEG yapılamadı."_s, writer.errorString());
+    return bytes;
+}
+
 void savePicture(const QImage &image, const QString &path)
 {
-    const QByteArray bytes = jpegBytes(image, path);
+    // In memory first, so that what fails later is the disk and nothing else.
+    const QByteArray bytes = jpegBytes(image);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
         !file.commit())

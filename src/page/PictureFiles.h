@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+#include <QByteArray>
 #include <QImage>
 #include <QSize>
 #include <QString>
@@ -25,6 +27,9 @@ QString modelPictureTarget(const QString &folder, const QString &model, const QS
 /// The same for a mold's; makes the folder KLP where it is missing.
 QString moldPictureTarget(const QString &folder, const QString &code);
 
+/// Told how many pictures of how many are read; false stops the work.
+using PictureProgress = std::function<bool(int done, int total)>;
+
 struct PictureResult
 {
     QImage image;  ///< null when the file cannot be shown
@@ -38,6 +43,10 @@ PictureResult loadPicture(const QString &path, QSize maxSize);
 
 /// The same for a picture that another program handed over.
 PictureResult fitPicture(const QImage &image, QSize maxSize);
+
+/// The picture as JPEG; what is transparent becomes white. Throws
+/// std::runtime_error with the encoder's text.
+QByteArray jpegBytes(const QImage &image);
 
 /// Writes the picture as JPEG, whatever it was read from; what is transparent
 /// becomes white. The old file stays until the new one is wholly on disk.

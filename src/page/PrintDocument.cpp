@@ -64,11 +64,13 @@ public:
     {
         const QSizeF box(picture.width.count(), picture.height.count());
         const QSizeF size = QSizeF(picture.image.size()).scaled(box, Qt::KeepAspectRatio);
-        const QRectF place(QPointF(picture.at.x.count(), picture.at.y.count()), size);
-        if (m_ink == PageInk::Smooth)
-            m_painter.drawImage(place, picture.image);
-        else
-            dotted(place, picture.image);
+        drawImage({QPointF(picture.at.x.count(), picture.at.y.count()), size}, picture.image);
+    }
+    void operator()(const PagePhoto &photo)
+    {
+        drawImage(
+            {photo.at.x.count(), photo.at.y.count(), photo.width.count(), photo.height.count()},
+            QImage::fromData(photo.jpeg, "JPEG"));
     }
     void operator()(const PageSymbol &symbol)
     {
@@ -90,6 +92,14 @@ private:
         m_ascent = QFontMetricsF(painted).ascent();
         m_font = font;
         m_fontSet = true;
+    }
+
+    void drawImage(const QRectF &place, const QImage &image)
+    {
+        if (m_ink == PageInk::Smooth)
+            m_painter.drawImage(place, image);
+        else
+            dotted(place, image);
     }
 
     /// In dots of its own, so that its greys become a pattern of black dots.
@@ -142,14 +152,14 @@ void PrintDocument::line(PagePoint from, PagePoint to, Twips width)
     add(PageLine{from, to, width});
 }
 
-void PrintDocument::frame(PagePoint at, Twips width, Twips height)
+void PrintDocument::frame(PagePoint at, Twips width, Twips height, Twips lineWidth)
 {
     const Twips right = at.x + width;
     const Twips bottom = at.y + height;
-    line(at, {right, at.y});
-    line({right, at.y}, {right, bottom});
-    line({right, bottom}, {at.x, bottom});
-    line({at.x, bottom}, at);
+    line(at, {right, at.y}, lineWidth);
+    line({right, at.y}, {right, bottom}, lineWidth);
+    line({right, bottom}, {at.x, bottom}, lineWidth);
+    line({at.x, bottom}, at, lineWidth);
 }
 
 bool PrintDocument::hasBars() const
@@ -175,6 +185,11 @@ void PrintDocument::bars(PagePoint at, const PageBars &bars)
 void PrintDocument::picture(PagePoint at, Twips width, Twips height, const QImage &image)
 {
     add(PagePicture{at, width, height, image});
+}
+
+void PrintDocument::photo(PagePoint at, Twips width, Twips height, const QByteArray &jpeg)
+{
+    add(PagePhoto{at, width, height, jpeg});
 }
 
 /// Asked for at every text; the system takes a millisecond to answer.

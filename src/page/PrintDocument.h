@@ -3,6 +3,7 @@
 #include "PageBars.h"
 #include "Twips.h"
 
+#include <QByteArray>
 #include <QImage>
 #include <QList>
 #include <QString>
@@ -49,13 +50,23 @@ struct PagePicture
     QImage image;
 };
 
+/// A picture that stays compressed until it is painted: documents of a thousand
+/// of them would not fit into memory otherwise. It fills its place.
+struct PagePhoto
+{
+    PagePoint at;
+    Twips width;
+    Twips height;
+    QByteArray jpeg;
+};
+
 struct PageSymbol
 {
     PagePoint at;
     PageBars bars;
 };
 
-using PageItem = std::variant<PageText, PageLine, PagePicture, PageSymbol>;
+using PageItem = std::variant<PageText, PageLine, PagePicture, PagePhoto, PageSymbol>;
 
 struct PrintPage
 {
@@ -81,9 +92,11 @@ public:
     void text(PagePoint at, const QString &text);
     void line(PagePoint from, PagePoint to, Twips width = Twips(10));
     /// Four lines around a box.
-    void frame(PagePoint at, Twips width, Twips height);
+    void frame(PagePoint at, Twips width, Twips height, Twips lineWidth = Twips(10));
     /// Fitted into the box with its proportions kept, from the top left.
     void picture(PagePoint at, Twips width, Twips height, const QImage &image);
+    /// Exactly as large as told.
+    void photo(PagePoint at, Twips width, Twips height, const QByteArray &jpeg);
 
     void bars(PagePoint at, const PageBars &bars);
 

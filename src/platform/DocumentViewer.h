@@ -13,4 +13,6 @@ public:
 
     /// Shows the document modally over parent; returns when the user is done.
     virtual void show(QWidget *parent, const PrintDocument &document) = 0;
+    /// Whether the document shown last went to a printer.
+    virtual bool wasPrinted() const { return false; }
 };

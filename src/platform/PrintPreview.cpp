@@ -237,5 +237,6 @@ void PrintPreview::savePdf()
 
 void PreviewViewer::show(QWidget *parent, const PrintDocument &document)
 {
-    PrintPreview(document, m_printers, m_messages, parent).exec();
+    PrintPreview preview(document, m_printers, m_messages, parent);
+    m_wasPrinted = preview.exec() == QDialog::Accepted;
 }

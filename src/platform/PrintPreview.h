@@ -78,8 +78,10 @@ public:
     {
     }
     void show(QWidget *parent, const PrintDocument &document) override;
+    bool wasPrinted() const override { return m_wasPrinted; }
 
 private:
     Printers &m_printers;
     Messages &m_messages;
+    bool m_wasPrinted = false;
 };

@@ -69,6 +69,32 @@ private Q_SLOTS:
         QVERIFY(!m_dialog->isVisible());
     }
 
+    void takesSeveralRowsWhereTheScreenWantsThem()
+    {
+        open(u"Tas Listesi"_s);
+        QTest::keyClick(m_grid, Qt::Key_Down, Qt::ShiftModifier);
+        QTest::keyClick(m_grid, Qt::Key_Return);
+        QVERIFY(m_dialog->answer().Secilenler.empty()); // this screen wants one
+
+        open(u"Tas Listesi"_s, {}, true);
+        QTest::keyClick(m_grid, Qt::Key_Down);
+        QTest::keyClick(m_grid, Qt::Key_Down, Qt::ShiftModifier);
+        const QPoint first = m_grid->visualRect(m_grid->model()->index(0, 1)).center();
+        QTest::mouseClick(m_grid->viewport(), Qt::LeftButton, Qt::ControlModifier, first);
+        const QStringList codes = column(1).first(3);
+        QTest::keyClick(m_grid, Qt::Key_Return);
+        QStringList taken;
+        for (const LookupAnswer &answer : m_dialog->answer().Secilenler)
+            taken.append(answer.Secilen);
+        QCOMPARE(taken, codes);
+
+        open(u"Tas Listesi"_s, {}, true); // with one row marked it is as ever
+        QTest::keyClick(m_grid, Qt::Key_Down);
+        QTest::keyClick(m_grid, Qt::Key_Return);
+        QCOMPARE(m_dialog->answer().Secilen, codes[1]);
+        QVERIFY(m_dialog->answer().Secilenler.empty());
+    }
+
     void leavesWithoutARow()
     {
         open(u"Tas Listesi"_s);
@@ -220,10 +246,10 @@ private Q_SLOTS:
     }
 
 private:
-    void open(const QString &list, const QString &filter = {})
+    void open(const QString &list, const QString &filter = {}, bool several = false)
     {
         m_dialog = std::make_unique<Liste_Combo>(m_company->oturum, *m_messages,
-                                                 LookupRequest{list, filter});
+                                                 LookupRequest{list, filter, several});
         m_grid = m_dialog->findChild<QTableView *>(u"Rapor"_s);
         m_dialog->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_dialog.get()));

@@ -17,7 +17,9 @@
 struct KeptDocuments : DocumentViewer
 {
     void show(QWidget *, const PrintDocument &document) override { shown.append(document); }
+    bool wasPrinted() const override { return prints; }
     QList<PrintDocument> shown;
+    bool prints = false; ///< whether what is shown is sent to a printer too
 };
 
 /// Keeps what was to be printed, or fails with a text.
@@ -57,8 +59,10 @@ struct DefinitionFixture
                                                                  : answers.takeFirst();
                                     },
                                     viewer};
-        if constexpr (std::is_constructible_v<Screen, ScreenContext, LabelPrinter &>)
-            screen = std::make_unique<Screen>(context, labels);
+        if constexpr (std::is_constructible_v<Screen, ScreenContext, LabelPrinter &, Camera>)
+            screen = std::make_unique<Screen>(context, labels, camera);
+        else if constexpr (std::is_constructible_v<Screen, ScreenContext, Camera>)
+            screen = std::make_unique<Screen>(context, camera);
         else
             screen = std::make_unique<Screen>(context);
         screen->show();
@@ -147,8 +151,11 @@ struct DefinitionFixture
         return fields.join(u'|');
     }
 
+    using Camera = std::function<QImage(QWidget *parent, const QString &Secilen)>;
+
     QTemporaryDir dir;
     Oturum oturum;
+    Camera camera; ///< none at first
     ScriptedMessages messages;
     QList<LookupRequest> asked;
     QList<LookupAnswer> answers;
