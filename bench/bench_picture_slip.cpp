@@ -7,6 +7,7 @@
 #include "Measured.h"
 #include "OrderSlip.h"
 #include "Oturum.h"
+#include "Photographs.h"
 #include "Schema.h"
 #include "SiparisStore.h"
 #include "SqliteEngine.h"
@@ -17,7 +18,6 @@
 #include <QImageReader>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -30,31 +30,6 @@ constexpr QSize photograph(1600, 1200);
 QString modelName(int i)
 {
     return u"A.%1"_s.arg(1000 + i);
-}
-
-/// As hard to compress as a photograph: shapes in many colours, and grain.
-QImage makePhotograph(int seed)
-{
-    QRandomGenerator dice{quint32(seed)};
-    QImage image(photograph, QImage::Format_RGB32);
-    image.fill(QColor::fromHsv(dice.bounded(360), 30, 230));
-    QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
-    for (int i = 0; i < 60; ++i) {
-        painter.setBrush(QColor::fromHsv(dice.bounded(360), 160, 120 + dice.bounded(120)));
-        painter.drawEllipse(QPoint(dice.bounded(1600), dice.bounded(1200)), 20 + dice.bounded(150),
-                            20 + dice.bounded(150));
-    }
-    painter.end();
-    for (int y = 0; y < image.height(); ++y) {
-        auto *line = reinterpret_cast<QRgb *>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            const int grain = dice.bounded(31) - 15;
-            const auto shade = [grain](int value) { return qBound(0, value + grain, 255); };
-            line[x] = qRgb(shade(qRed(line[x])), shade(qGreen(line[x])), shade(qBlue(line[x])));
-        }
-    }
-    return image;
 }
 
 void fill(const SqliteEngine &engine, const QString &folder)
@@ -73,7 +48,7 @@ void fill(const SqliteEngine &engine, const QString &folder)
         engine.run(u"INSERT INTO SiparisD (SipnumD, SipSatir, SipModel, SipUruntip, Siprenk, "
                    "SipAck, SipAdet) VALUES (1, ?, ?, 1, 'SR', 'ölçü 14', ?)"_s,
                    {i + 1, modelName(i), i % 20 + 1});
-        makePhotograph(i).save(folder + u'/' + modelName(i) + u".jpg"_s, "JPG", 90);
+        makePhotograph(i, photograph).save(folder + u'/' + modelName(i) + u".jpg"_s, "JPG", 90);
     }
 }
 

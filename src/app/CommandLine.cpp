@@ -24,6 +24,8 @@ constexpr Command commands[] = {
      barkodCommand, true},
     {u"model", u"kuyum model VERITABANI MODEL TIP --pdf DOSYA [--resim KLASOR]", modelCommand,
      true},
+    {u"katalog", u"kuyum katalog VERITABANI KATALOG --bicim 3x5|4x6 --pdf DOSYA [--resim KLASOR]",
+     katalogCommand, true},
     {u"rapor",
      u"kuyum rapor tas|kalip|model VERITABANI --bas G.A.Y --bit G.A.Y --csv|--xlsx|--pdf DOSYA\n"
      "              (model için: [--bol ayar|tip] [--firma N] [--ulke N] [--model ONEK] [--tip "

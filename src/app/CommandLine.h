@@ -39,6 +39,7 @@ int aktarCommand(const QStringList &arguments);
 int barkodCommand(const QStringList &arguments);
 int etiketCommand(const QStringList &arguments);
 int fisCommand(const QStringList &arguments);
+int katalogCommand(const QStringList &arguments);
 int modelCommand(const QStringList &arguments);
 int raporCommand(const QStringList &arguments);
 int sorguCommand(const QStringList &arguments);

@@ -7,8 +7,15 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <stdexcept>
 
 using namespace Qt::StringLiterals;
+
+void requirePictureFolder(const QString &folder)
+{
+    if (!QFileInfo(folder).isDir())
+        throw std::runtime_error((u"Resim klasörü bulunamadı: "_s + folder).toStdString());
+}
 
 QString pictureFolderOf(const QString &database)
 {

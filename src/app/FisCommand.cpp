@@ -6,7 +6,6 @@
 #include "SiparisStore.h"
 
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -67,9 +66,8 @@ FisIstegi readRequest(const QStringList &arguments)
         request.choice.adet = readCount(parser.value(pictures));
     if (!isNumber)
         throw WrongUsage();
-    if (parser.isSet(folder) && !QFileInfo(request.resimKlasoru).isDir())
-        throw std::runtime_error(
-            (u"Resim klasörü bulunamadı: "_s + request.resimKlasoru).toStdString());
+    if (parser.isSet(folder))
+        requirePictureFolder(request.resimKlasoru);
     return request;
 }
 

@@ -1,5 +1,7 @@
 #include "MenuTable.h"
 
+#include "CameraFrames.h"
+#include "FrmWebcam.h"
 #include "Giris_Kur.h"
 #include "Giris_Siparis.h"
 #include "Rapor_Siparis.h"
@@ -10,6 +12,7 @@
 #include "Tanim_Barkod.h"
 #include "Tanim_Firma.h"
 #include "Tanim_Kalip.h"
+#include "Tanim_Katalog.h"
 #include "Tanim_Model.h"
 #include "Tanim_Renk.h"
 #include "Tanim_Tas.h"
@@ -44,10 +47,17 @@ ScreenFactory reportScreen(ScreenServices &services)
     };
 }
 
+CameraOpener camera(ScreenServices &services)
+{
+    return [&services](QWidget *parent, const QString &Secilen) {
+        return webcamFrame({services.messages, services.settings, openCamera}, parent, Secilen);
+    };
+}
+
 ScreenFactory moldScreen(ScreenServices &services)
 {
     return [&services](QWidget *parent) {
-        return std::make_unique<Tanim_Kalip>(services.context(), CameraOpener(), parent);
+        return std::make_unique<Tanim_Kalip>(services.context(), camera(services), parent);
     };
 }
 
@@ -55,7 +65,7 @@ ScreenFactory modelScreen(ScreenServices &services)
 {
     return [&services](QWidget *parent) {
         return std::make_unique<Tanim_Model>(services.context(), services.labelPrinter,
-                                             CameraOpener(), parent);
+                                             camera(services), parent);
     };
 }
 
@@ -97,6 +107,7 @@ MenuScreens menuTable(ScreenServices &services)
         {7, orderScreen(services)},
         {8, screen<Tanim_Ayar>(services)},
         {9, screen<Tanim_Renk>(services)},
+        {10, screen<Tanim_Katalog>(services)},
         {11, reportScreen<Rapor_Siparis>(services)},
     };
 }

@@ -67,6 +67,9 @@ private Q_SLOTS:
             << QStringList{u"fis"_s, m_database, u"bir"_s, u"--pdf"_s, u"x.pdf"_s};
         QTest::newRow("a sheet without a type")
             << QStringList{u"model"_s, m_database, u"A75"_s, u"--pdf"_s, u"x.pdf"_s};
+        const QStringList pages{u"katalog"_s, m_database, u"Bahar"_s, u"--pdf"_s, u"x.pdf"_s};
+        QTest::newRow("a catalogue in no form") << pages;
+        QTest::newRow("a form that there is not") << pages + QStringList{u"--bicim"_s, u"5x5"_s};
         const QStringList label{u"etiket"_s, m_database, u"A75"_s, u"1"_s};
         QTest::newRow("a label without a file") << label;
         QTest::newRow("a label in two files")

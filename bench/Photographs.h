@@ -1,0 +1,7 @@
+#pragma once
+
+#include <QImage>
+
+/// A picture of that size as hard to compress as a photograph: shapes in many
+/// colours, and grain. The same seed gives the same picture.
+QImage makePhotograph(int seed, QSize size);

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "Katalog.h"
+
+#include <optional>
+
+struct Oturum;
+
+/// Finds, saves and removes catalogues. Everything throws DatabaseError.
+class KatalogStore
+{
+public:
+    explicit KatalogStore(Oturum &oturum) : m_oturum(&oturum) {}
+
+    /// The catalogue of that name; one without rows when there is none. Typed
+    /// in another spelling, it is found under its own.
+    Katalog KatalogBul(const QString &KatAdi) const;
+    /// A model as a new row of a catalogue; nothing when there is none of that type.
+    std::optional<KatalogSatiri> ModelBul(const QString &model, qint32 TipID) const;
+
+    /// Replaces the catalogue of that name, in one transaction.
+    void save(const Katalog &katalog) const;
+    void remove(const QString &KatAdi) const;
+
+private:
+    QList<KatalogSatiri> otherRows(const Katalog &shown) const;
+
+    Oturum *m_oturum;
+};
