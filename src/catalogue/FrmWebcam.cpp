@@ -111,7 +111,8 @@ bool FrmWebcam::Baglan()
         return false;
     }
     connect(m_source.get(), &FrameSource::frameCame, this, &FrmWebcam::showFrame);
-    connect(m_source.get(), &FrameSource::lost, this, &FrmWebcam::lose);
+    // Queued: closing lets the source go, and it is still at work when it says so.
+    connect(m_source.get(), &FrameSource::lost, this, &FrmWebcam::lose, Qt::QueuedConnection);
     // A device that another program holds can stay silent.
     m_firstFrame.start(mostMillisecondsToFirstFrame);
     return true;
@@ -134,8 +135,11 @@ void FrmWebcam::showFrame(const QImage &frame)
     m_ui->capwnd->showFrame(frame);
     if (frame.size() != m_fittedTo)
         fitToImage(frame.size());
+    if (m_ui->cmdResimCopy->isEnabled())
+        return;
     for (QPushButton *button : {m_ui->cmdResimCopy, m_ui->cmdKaydet})
         button->setEnabled(true);
+    m_ui->cmdResimCopy->setFocus(Qt::TabFocusReason);
 }
 
 /// As large as the image, as far as the screen allows.
@@ -167,7 +171,8 @@ void FrmWebcam::chooseFormat()
     dialog.setOkButtonText(u"Tamam"_s);
     dialog.setCancelButtonText(u"Vazgeç"_s);
     const bool chosen = dialog.exec() == QDialog::Accepted;
-    if (const qsizetype format = formats.indexOf(dialog.textValue()); chosen && format >= 0)
+    if (const qsizetype format = formats.indexOf(dialog.textValue());
+        chosen && m_source && format >= 0)
         m_source->setFormat(int(format));
 }
 

@@ -37,20 +37,19 @@ void addRow(Recordset &rows, const QString &KatAdi, const KatalogSatiri &satir, 
 
 Katalog KatalogStore::KatalogBul(const QString &KatAdi) const
 {
+    Katalog katalog = storedRows(KatAdi.trimmed());
     Recordset Kayit =
         m_oturum->sorgula(u"Select * From Katalog, Model, Uruntipi "
                           "Where Katno1 = Model_ID and Model.M_uruntip = Uruntipi.TipID "
                           "and KatAdi = "_s +
-                          sqlText(KatAdi.trimmed()) + u" Order by Model;"_s);
-    Katalog katalog;
-    katalog.KatAdi = KatAdi.trimmed();
+                          sqlText(katalog.KatAdi) + u" Order by Model;"_s);
     QList<PlacedRow> rows;
+    QSet<qint32> found;
     while (Kayit.next()) {
-        if (rows.isEmpty())
-            katalog.KatAdi = Kayit.text(u"KatAdi").trimmed();
         rows.append({placeOf(Kayit),
                      {Kayit.text(u"Model"), Kayit.number(u"katgram"), Kayit.text(u"kataciklama"),
                       qint32(Kayit.integer(u"katno1")), Kayit.text(u"KisaAD")}});
+        found.insert(rows.last().satir.katno1);
         katalog.elleSirali = katalog.elleSirali || rows.last().katsira != 0;
     }
     // Rows of one place, or of none, stay in the order of their models.
@@ -58,25 +57,28 @@ Katalog KatalogStore::KatalogBul(const QString &KatAdi) const
                      [](const PlacedRow &a, const PlacedRow &b) { return a.katsira < b.katsira; });
     for (const PlacedRow &row : std::as_const(rows))
         katalog.satirlar.append(row.satir);
-    katalog.keptRows = otherRows(katalog);
+    katalog.keptRows.removeIf(
+        [&found](const KatalogSatiri &satir) { return found.contains(satir.katno1); });
     return katalog;
 }
 
-/// The rows of the catalogue that its join does not find.
-QList<KatalogSatiri> KatalogStore::otherRows(const Katalog &shown) const
+/// All rows of a catalogue, with or without their models, as those to be kept.
+Katalog KatalogStore::storedRows(const QString &KatAdi) const
 {
-    QSet<qint32> found;
-    for (const KatalogSatiri &satir : shown.satirlar)
-        found.insert(satir.katno1);
     Recordset Kayit =
-        m_oturum->sorgula(u"Select * From Katalog Where KatAdi = "_s + sqlText(shown.KatAdi));
-    QList<KatalogSatiri> others;
+        m_oturum->sorgula(u"Select * From Katalog Where KatAdi = "_s + sqlText(KatAdi));
+    Katalog katalog;
+    katalog.KatAdi = KatAdi;
     while (Kayit.next()) {
-        const auto katno1 = qint32(Kayit.integer(u"katno1"));
-        if (!found.contains(katno1))
-            others.append({{}, Kayit.number(u"katgram"), Kayit.text(u"kataciklama"), katno1, {}});
+        if (katalog.keptRows.isEmpty())
+            katalog.KatAdi = Kayit.text(u"KatAdi").trimmed();
+        katalog.keptRows.append({{},
+                                 Kayit.number(u"katgram"),
+                                 Kayit.text(u"kataciklama"),
+                                 qint32(Kayit.integer(u"katno1")),
+                                 {}});
     }
-    return others;
+    return katalog;
 }
 
 std::optional<KatalogSatiri> KatalogStore::ModelBul(const QString &model, qint32 TipID) const

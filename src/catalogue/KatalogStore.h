@@ -23,7 +23,7 @@ public:
     void remove(const QString &KatAdi) const;
 
 private:
-    QList<KatalogSatiri> otherRows(const Katalog &shown) const;
+    Katalog storedRows(const QString &KatAdi) const;
 
     Oturum *m_oturum;
 };

@@ -2,6 +2,7 @@
 #include "ModelStore.h"
 #include "Oturum.h"
 #include "SampleCompany.h"
+#include "Schema.h"
 #include "SqliteEngine.h"
 #include "TestRegistry.h"
 
@@ -49,7 +50,9 @@ private Q_SLOTS:
     void findsTheRowsInTheOrderOfTheirModels()
     {
         const Katalog found = m_store.KatalogBul(u" BAHAR "_s);
-        QCOMPARE(m_oturum.SonSQL, u"Select * From Katalog Where KatAdi = 'Bahar'"_s);
+        QCOMPARE(m_oturum.SonSQL,
+                 u"Select * From Katalog, Model, Uruntipi Where Katno1 = Model_ID and "
+                 "Model.M_uruntip = Uruntipi.TipID and KatAdi = 'Bahar' Order by Model;"_s);
         QCOMPARE(found.KatAdi, u"Bahar"_s);
         QCOMPARE(found.satirlar, QList<KatalogSatiri>({{u"A75"_s, 2.1, u"yeni"_s, 1, u"YZK"_s},
                                                        {u"İnci-1"_s, 1.1, u""_s, 4, u"KPE"_s}}));
@@ -98,6 +101,22 @@ private Q_SLOTS:
         katalog.elleSirali = true;
         m_store.save(katalog);
         QCOMPARE(models(u"Bahar"_s), QStringList({u"İnci-1"_s, u"A75"_s}));
+        QVERIFY(m_store.KatalogBul(u"Bahar"_s) == katalog);
+    }
+
+    void aCompanyOfAnOlderLayout()
+    {
+        Database &db = *m_oturum.Veritabani;
+        db.engine().run(u"ALTER TABLE Katalog DROP COLUMN katsira"_s);
+        db.setSchemaVersion(1);
+        QCOMPARE(models(u"Bahar"_s), QStringList({u"A75"_s, u"İnci-1"_s})); // as `kuyum katalog`
+        const QString path = db.path();
+        m_oturum.Veritabani.reset();
+        m_oturum.Veritabani = openCompany(path);
+        Katalog katalog = m_store.KatalogBul(u"Bahar"_s);
+        QVERIFY(!katalog.elleSirali);
+        katalog.elleSirali = true;
+        m_store.save(katalog);
         QVERIFY(m_store.KatalogBul(u"Bahar"_s) == katalog);
     }
 
