@@ -41,8 +41,8 @@ void fill(const SqliteEngine &engine)
         engine.run(u"INSERT INTO Model (Model_ID, Model, M_Uruntip, M_Miktar) "
                    "VALUES (?, ?, 1, 2.37)"_s,
                    {i + 1, u"A.%1"_s.arg(1000 + i)});
-        engine.run(u"INSERT INTO Katalog (KatAdi, katno1, katgram, kataciklama, katsira) "
-                   "VALUES ('OLCUM', ?, 2.37, 'iki renk', 0)"_s,
+        engine.run(u"INSERT INTO Katalog (KatAdi, katno1, katgram, kataciklama) "
+                   "VALUES ('OLCUM', ?, 2.37, 'iki renk')"_s,
                    {i + 1});
     }
 }

@@ -150,6 +150,11 @@ void FrmWebcam::fitToImage(QSize image)
     const QSize room = screen()->availableSize() * 0.9 - besides;
     const bool fits = image.width() <= room.width() && image.height() <= room.height();
     resize((fits ? image : image.scaled(room, Qt::KeepAspectRatio)) + besides);
+    // Grown from where it stood, it may reach over the screen's edge.
+    const QRect available = screen()->availableGeometry();
+    const QPoint furthest = available.bottomRight() - frameGeometry().bottomRight() + pos();
+    move(std::clamp(x(), available.left(), std::max(available.left(), furthest.x())),
+         std::clamp(y(), available.top(), std::max(available.top(), furthest.y())));
 }
 
 void FrmWebcam::takeFrame()

@@ -103,14 +103,14 @@ Caption captionOf(const KatalogSatiri &satir, Twips width, double most)
     return {points, {shortened(model, lettersIn(width, points) - weight.size()) + weight}};
 }
 
-/// The remark in the largest size in which all of it fits.
-Caption remarkOf(const QString &remark, Twips width, Twips height)
+/// The remark in the largest size, no larger than `largest`, in which all of it fits.
+Caption remarkOf(const QString &remark, Twips width, Twips height, double largest)
 {
-    Caption caption{captionPoints, {}};
+    Caption caption{largest, {}};
     qsizetype most = 1;
     for (const double size : sizes) {
-        if (size < smallestRemark)
-            break;
+        if (size > largest || size < smallestRemark)
+            continue;
         const int letters = lettersIn(width, size);
         most = qsizetype(height.count() / lineHeight(size).count());
         caption = {size, wrappedLines(remark.trimmed(), letters, letters)};
@@ -181,10 +181,11 @@ void KatalogBaski::cell(const KatalogSatiri &satir, PagePoint box)
 {
     picture(satir, box);
     const Twips captionY = box.y + m_sayfa.pictureHeight + captionDistance;
-    const Twips remarkY = captionY + lineHeight(captionPoints);
-    const Twips remarkHeight = textHeight - captionDistance - lineHeight(captionPoints);
+    const Twips captionHeight = lineHeight(m_captionPoints);
+    const Twips remarkHeight = textHeight - captionDistance - captionHeight;
     texts(captionOf(satir, m_sayfa.pictureWidth, m_captionPoints), box.x, captionY);
-    texts(remarkOf(satir.kataciklama, m_sayfa.pictureWidth, remarkHeight), box.x, remarkY);
+    texts(remarkOf(satir.kataciklama, m_sayfa.pictureWidth, remarkHeight, m_captionPoints), box.x,
+          captionY + captionHeight);
 }
 
 void KatalogBaski::texts(const Caption &caption, Twips x, Twips y)

@@ -4,32 +4,19 @@
 #include "Oturum.h"
 #include "SqlText.h"
 
-#include <QSet>
+#include <QHash>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-struct PlacedRow
-{
-    qint64 katsira; ///< 0 in a catalogue that was never put into an order by hand
-    KatalogSatiri satir;
-};
-
-/// A company that was only opened for reading can be of an older layout.
-qint64 placeOf(const Recordset &Kayit)
-{
-    return Kayit.hasField(u"katsira") ? Kayit.integer(u"katsira") : 0;
-}
-
-void addRow(Recordset &rows, const QString &KatAdi, const KatalogSatiri &satir, qint64 katsira)
+void addRow(Recordset &rows, const QString &KatAdi, const KatalogSatiri &satir)
 {
     rows.addNew();
     rows.set(u"KatAdi", KatAdi);
     rows.set(u"katno1", satir.katno1);
     rows.set(u"katgram", satir.katgram);
     rows.set(u"kataciklama", satir.kataciklama);
-    rows.set(u"katsira", katsira);
     rows.update();
 }
 
@@ -38,31 +25,44 @@ void addRow(Recordset &rows, const QString &KatAdi, const KatalogSatiri &satir, 
 Katalog KatalogStore::KatalogBul(const QString &KatAdi) const
 {
     Katalog katalog = storedRows(KatAdi.trimmed());
+    katalog.elleSirali = isOrderedByHand(katalog.KatAdi);
     Recordset Kayit =
         m_oturum->sorgula(u"Select * From Katalog, Model, Uruntipi "
                           "Where Katno1 = Model_ID and Model.M_uruntip = Uruntipi.TipID "
                           "and KatAdi = "_s +
                           sqlText(katalog.KatAdi) + u" Order by Model;"_s);
-    QList<PlacedRow> rows;
-    QSet<qint32> found;
+    QHash<qint32, KatalogSatiri> found;
     while (Kayit.next()) {
-        rows.append({placeOf(Kayit),
-                     {Kayit.text(u"Model"), Kayit.number(u"katgram"), Kayit.text(u"kataciklama"),
-                      qint32(Kayit.integer(u"katno1")), Kayit.text(u"KisaAD")}});
-        found.insert(rows.last().satir.katno1);
-        katalog.elleSirali = katalog.elleSirali || rows.last().katsira != 0;
+        katalog.satirlar.append({Kayit.text(u"Model"), Kayit.number(u"katgram"),
+                                 Kayit.text(u"kataciklama"), qint32(Kayit.integer(u"katno1")),
+                                 Kayit.text(u"KisaAD")});
+        found.insert(katalog.satirlar.last().katno1, katalog.satirlar.last());
     }
-    // Rows of one place, or of none, stay in the order of their models.
-    std::stable_sort(rows.begin(), rows.end(),
-                     [](const PlacedRow &a, const PlacedRow &b) { return a.katsira < b.katsira; });
-    for (const PlacedRow &row : std::as_const(rows))
-        katalog.satirlar.append(row.satir);
+    if (katalog.elleSirali) {
+        katalog.satirlar.clear();
+        for (KatalogSatiri satir : std::as_const(katalog.keptRows)) {
+            if (const auto model = found.constFind(satir.katno1); model != found.constEnd()) {
+                satir.Model = model->Model;
+                satir.KisaAD = model->KisaAD;
+                katalog.satirlar.append(satir);
+            }
+        }
+    }
     katalog.keptRows.removeIf(
         [&found](const KatalogSatiri &satir) { return found.contains(satir.katno1); });
     return katalog;
 }
 
-/// All rows of a catalogue, with or without their models, as those to be kept.
+/// A company that was only opened for reading can be of an older layout.
+bool KatalogStore::isOrderedByHand(const QString &KatAdi) const
+{
+    Database &company = *m_oturum->Veritabani;
+    return company.hasTable(u"KatalogSira"_s) &&
+           company.query(u"Select * From KatalogSira Where KatAdi = "_s + sqlText(KatAdi)).next();
+}
+
+/// All rows of a catalogue, with or without their models, as those to be kept:
+/// in the order in which they were written.
 Katalog KatalogStore::storedRows(const QString &KatAdi) const
 {
     Recordset Kayit =
@@ -96,16 +96,29 @@ std::optional<KatalogSatiri> KatalogStore::ModelBul(const QString &model, qint32
 void KatalogStore::save(const Katalog &katalog) const
 {
     Transaction rewrite(*m_oturum->Veritabani);
-    remove(katalog.KatAdi);
+    deleteRows(katalog.KatAdi);
     Recordset rows = m_oturum->Veritabani->table(u"Katalog"_s);
-    for (qsizetype i = 0; i < katalog.satirlar.size(); ++i)
-        addRow(rows, katalog.KatAdi, katalog.satirlar[i], katalog.elleSirali ? i + 1 : 0);
-    for (const KatalogSatiri &satir : katalog.keptRows)
-        addRow(rows, katalog.KatAdi, satir, 0);
+    for (const KatalogSatiri &satir : katalog.satirlar + katalog.keptRows)
+        addRow(rows, katalog.KatAdi, satir);
+    if (katalog.elleSirali) {
+        Recordset ordered = m_oturum->Veritabani->table(u"KatalogSira"_s);
+        ordered.addNew();
+        ordered.set(u"KatAdi", katalog.KatAdi);
+        ordered.update();
+    }
     rewrite.commit();
 }
 
 void KatalogStore::remove(const QString &KatAdi) const
 {
-    m_oturum->calistir(u"DELETE From Katalog Where Katadi = "_s + sqlText(KatAdi));
+    Transaction removal(*m_oturum->Veritabani);
+    deleteRows(KatAdi);
+    removal.commit();
+}
+
+void KatalogStore::deleteRows(const QString &KatAdi) const
+{
+    const QString ofName = u" Where Katadi = "_s + sqlText(KatAdi);
+    m_oturum->calistir(u"DELETE From KatalogSira"_s + ofName);
+    m_oturum->calistir(u"DELETE From Katalog"_s + ofName);
 }

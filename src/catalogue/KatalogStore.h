@@ -24,6 +24,8 @@ public:
 
 private:
     Katalog storedRows(const QString &KatAdi) const;
+    bool isOrderedByHand(const QString &KatAdi) const;
+    void deleteRows(const QString &KatAdi) const;
 
     Oturum *m_oturum;
 };

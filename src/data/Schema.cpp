@@ -90,8 +90,9 @@ QList<TableDef> masterTables()
         {u"Ayar"_s, {number(u"Milyem"_s), real(u"Yogunluk"_s)}, {key({u"Milyem"_s})}},
         {u"Katalog"_s,
          {text(u"KatAdi"_s, 40), longField(u"katno1"_s), real(u"katgram"_s),
-          text(u"kataciklama"_s, 100), number(u"katsira"_s)},
+          text(u"kataciklama"_s, 100)},
          {index({u"KatAdi"_s})}},
+        {u"KatalogSira"_s, {text(u"KatAdi"_s, 255)}, {key({u"KatAdi"_s})}},
     };
 }
 

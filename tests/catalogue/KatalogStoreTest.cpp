@@ -107,7 +107,7 @@ private Q_SLOTS:
     void aCompanyOfAnOlderLayout()
     {
         Database &db = *m_oturum.Veritabani;
-        db.engine().run(u"ALTER TABLE Katalog DROP COLUMN katsira"_s);
+        db.engine().run(u"DROP TABLE KatalogSira"_s);
         db.setSchemaVersion(1);
         QCOMPARE(models(u"Bahar"_s), QStringList({u"A75"_s, u"İnci-1"_s})); // as `kuyum katalog`
         const QString path = db.path();

@@ -29,7 +29,7 @@ struct Catalogues : DefinitionFixture<Tanim_Katalog>
     QString stored(const QString &KatAdi) const
     {
         Recordset set = oturum.Veritabani->query(
-            u"Select * From Katalog Where KatAdi = '%1' Order by katsira, katno1"_s.arg(KatAdi));
+            u"Select * From Katalog Where KatAdi = '%1' Order by katno1"_s.arg(KatAdi));
         QStringList result;
         while (set.next())
             result.append(u"%1 %2 %3"_s.arg(set.text(u"katno1"), set.text(u"katgram"),
