@@ -140,7 +140,7 @@ private:
     SheetThumbnails m_thumbnails;
     QList<qsizetype> m_columns; ///< those that are shown
     QList<double> m_widths;     ///< of the sheet's columns
-    QHash<QString, lxw_format *> m_formats;
+    QHash<std::pair<int, QString>, lxw_format *> m_formats;
     lxw_worksheet *m_page = nullptr;
     lxw_row_t m_row = 0;
     lxw_row_t m_headingRow = 0;
@@ -322,8 +322,7 @@ void SheetWriter::finish()
 /// Made once for each look: headings and captions, lines, totals.
 lxw_format *SheetWriter::format(ReportRowKind kind, const QString &picture, bool right)
 {
-    const QString name = u"%1 %2 %3"_s.arg(int(kind)).arg(right).arg(picture);
-    lxw_format *&made = m_formats[name];
+    lxw_format *&made = m_formats[{int(kind) * 2 + int(right), picture}];
     if (made != nullptr)
         return made;
     made = workbook_add_format(m_book.book());
