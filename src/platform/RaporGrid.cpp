@@ -98,6 +98,7 @@ RaporGrid::RaporGrid(QWidget *parent)
     layout->addWidget(m_rows, 1);
     layout->addLayout(totalLine);
     layout->addWidget(m_across);
+    m_across->hide(); // until there is something to move
     keepInStep();
     setTable({});
 }
