@@ -1,6 +1,6 @@
 #include "CellEditors.h"
 
-#include "TurkishText.h"
+#include "EntryControls.h"
 #include "Twips.h"
 
 #include <QComboBox>
@@ -123,17 +123,9 @@ void CellEditors::selectAll()
     txtTas->selectAll();
 }
 
-bool CellEditors::types(const QKeyEvent *event)
-{
-    const Qt::KeyboardModifiers held = event->modifiers();
-    // Both together are AltGr, which types characters.
-    const bool command = held.testFlag(Qt::ControlModifier) != held.testFlag(Qt::AltModifier);
-    return !command && !event->text().isEmpty() && event->text().front().isPrint();
-}
-
 bool CellEditors::typeColour(const QKeyEvent *event)
 {
-    if (!types(event))
+    if (!typesCharacter(*event))
         return false;
     chooseColour(event->text());
     return true;
@@ -141,15 +133,6 @@ bool CellEditors::typeColour(const QKeyEvent *event)
 
 void CellEditors::chooseColour(const QString &text)
 {
-    if (text.isEmpty())
-        return;
-    for (const QString &typed : {m_colourTyped + text, text}) {
-        for (int i = 0; i < cmbTas->count(); ++i) {
-            if (searchKey(cmbTas->itemText(i)).startsWith(searchKey(typed))) {
-                cmbTas->setCurrentIndex(i);
-                m_colourTyped = typed;
-                return;
-            }
-        }
-    }
+    if (!text.isEmpty())
+        m_colourTyped = chooseTyped(*cmbTas, m_colourTyped, text);
 }

@@ -51,9 +51,6 @@ public:
     /// key that types nothing.
     bool typeColour(const QKeyEvent *event);
 
-    /// Whether the key types a character.
-    static bool types(const QKeyEvent *event);
-
 Q_SIGNALS:
     void edited(const QString &text);
 

@@ -1,6 +1,5 @@
 #include "Giris_Siparis.h"
 
-#include "CellEditors.h"
 #include "EntryControls.h"
 #include "Guarded.h"
 #include "ModelEntry.h"
@@ -156,7 +155,7 @@ void Giris_Siparis::keyPressEvent(QKeyEvent *event)
 /// no control takes as typed goes into the grid, from the first digit on.
 bool Giris_Siparis::takeScanPastControls(QKeyEvent *event)
 {
-    const bool digit = CellEditors::types(event) && event->text().front().isDigit();
+    const bool digit = typesCharacter(*event) && event->text().front().isDigit();
     if (!digit || !m_ui->Check_HizliGiris->isChecked() || !isEditing() || m_ui->Rapor->hasFocus())
         return false;
     m_ui->Rapor->goToEmptyRow();

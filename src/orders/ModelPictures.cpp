@@ -2,31 +2,38 @@
 
 #include "TurkishText.h"
 
-static QString key(const QString &model)
+static QString key(const QString &code)
 {
-    return foldedText(model.trimmed());
+    return foldedText(code.trimmed());
 }
 
 bool ModelPictures::read(const Siparis &siparis, const PictureProgress &progress)
 {
     QStringList models;
-    for (const SiparisSatiri &row : siparis.satirlar) {
-        if (const QString model = row.model.trimmed();
-            !model.isEmpty() && !m_pictures.contains(key(model))) {
-            m_pictures.insert(key(model), {});
-            models.append(model);
+    for (const SiparisSatiri &row : siparis.satirlar)
+        models.append(row.model);
+    return read(models, progress);
+}
+
+bool ModelPictures::read(const QStringList &codes, const PictureProgress &progress)
+{
+    QStringList wanted;
+    for (const QString &code : codes) {
+        if (!code.trimmed().isEmpty() && !m_pictures.contains(key(code))) {
+            m_pictures.insert(key(code), {});
+            wanted.append(code.trimmed());
         }
     }
-    for (qsizetype i = 0; i < models.size(); ++i) {
-        if (!progress(int(i), int(models.size())))
+    for (qsizetype i = 0; i < wanted.size(); ++i) {
+        if (!progress(int(i), int(wanted.size())))
             return false;
-        if (const QString path = m_lookups.picturePath(models[i]); !path.isEmpty())
-            m_pictures[key(models[i])] = loadPicture(path, m_mostPixels).image;
+        if (const QString path = m_pathOf(wanted[i]); !path.isEmpty())
+            m_pictures[key(wanted[i])] = loadPicture(path, m_mostPixels).image;
     }
     return true;
 }
 
-QImage ModelPictures::resim(const QString &model) const
+QImage ModelPictures::resim(const QString &code) const
 {
-    return m_pictures.value(key(model));
+    return m_pictures.value(key(code));
 }

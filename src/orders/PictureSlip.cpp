@@ -1,6 +1,7 @@
 #include "PictureSlip.h"
 
 #include "FixedPitchText.h"
+#include "MissingPicture.h"
 #include "Numbers.h"
 #include "PictureLayout.h"
 
@@ -38,7 +39,6 @@ private:
     void writeBlock(const QStringList &lines);
     void writeNoteOverrun();
     void picture(const QString &model);
-    void emptyBox(const QString &model);
 
     const PictureLayout &m_layout;
     const PictureSlipSource &m_source;
@@ -111,48 +111,15 @@ void PictureSlip::writeBlock(const QStringList &lines)
 
 void PictureSlip::picture(const QString &model)
 {
-    const QImage image = m_source.resim(model);
-    if (image.isNull()) {
-        emptyBox(model);
-        return;
-    }
-    m_pages.document().picture(
+    const PictureRoom box{
         {listAt.x - PictureLayout::pictureOffset, m_y - PictureLayout::pictureOffset},
-        m_layout.pictureWidth, m_layout.pictureHeight(), image);
-}
-
-/// In place of a picture that is missing: its frame, and in its middle the model.
-void PictureSlip::emptyBox(const QString &model)
-{
-    const Twips left = listAt.x - PictureLayout::pictureOffset;
-    const Twips top = m_y - PictureLayout::pictureOffset;
-    const Twips right = left + m_layout.pictureWidth;
-    const Twips bottom = top + m_layout.pictureHeight();
-    const auto side = [this](PagePoint from, PagePoint to) {
-        m_pages.document().line(from, to, hairline);
-    };
-    side({left, top}, {right, top});
-    side({right, top}, {right, bottom});
-    side({right, bottom}, {left, bottom});
-    side({left, bottom}, {left, top});
-
-    constexpr Twips margin = 60_tw;
-    const int width =
-        int((m_layout.pictureWidth - margin * 2).count() / SlipMeasures::charWidth.count());
-    const int height =
-        int((m_layout.pictureHeight() - margin * 2).count() / PictureLayout::lineAdvance.count());
-    QStringList lines = wrappedLines(model, width, width);
-    if (lines.size() > height) { // the whole code stands beside the box
-        lines = lines.first(height);
-        lines.last().back() = u'…';
-    }
-    Twips y =
-        top + (m_layout.pictureHeight() - PictureLayout::lineAdvance * double(lines.size())) * 0.5;
-    for (const QString &line : lines) {
-        m_pages.YaziYaz(left + (m_layout.pictureWidth - charWidth * double(line.size())) * 0.5, y,
-                        line);
-        y += PictureLayout::lineAdvance;
-    }
+        m_layout.pictureWidth,
+        m_layout.pictureHeight()};
+    const QImage image = m_source.resim(model);
+    if (image.isNull())
+        missingPicture(m_pages.document(), box, model);
+    else
+        m_pages.document().picture(box.at, box.width, box.height, image);
 }
 
 /// What the header does not hold of the order's note, in cells of its own.

@@ -178,7 +178,7 @@ void SiparisGrid::startEditor(const QModelIndex &cell, const QString &typed)
 
 bool SiparisGrid::startsEditor(const QKeyEvent *event) const
 {
-    return CellEditors::types(event) && m_model->isOpen(currentIndex()) &&
+    return typesCharacter(*event) && m_model->isOpen(currentIndex()) &&
            (!m_model->isQuantity(currentIndex().column()) || event->text().front().isDigit());
 }
 
@@ -202,7 +202,7 @@ void SiparisGrid::keyPressEvent(QKeyEvent *event)
     } else if (startsEditor(event)) {
         if (finishEdit())
             startEditor(cell, event->text());
-    } else if (!CellEditors::types(event)) {
+    } else if (!typesCharacter(*event)) {
         QTableView::keyPressEvent(event);
     }
 }

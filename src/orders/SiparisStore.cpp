@@ -110,7 +110,7 @@ QList<UrunTipi> SiparisStore::productTypes() const
     return types;
 }
 
-std::optional<Siparis> SiparisStore::SiparisBul(qint32 Sipnum) const
+std::optional<Siparis> SiparisStore::baslikBul(qint32 Sipnum) const
 {
     Recordset Kayit = m_oturum->sorgula(u"Select * From SiparisB, Firma "
                                         "Where SiparisB.SipFirkod = Firma.Firkod "
@@ -128,13 +128,23 @@ std::optional<Siparis> SiparisStore::SiparisBul(qint32 Sipnum) const
     siparis.Ayar = Kayit.number(u"Ayar");
     siparis.Patent = Kayit.text(u"Patent");
     siparis.Aciklama = Kayit.text(u"SiparisB.Aciklama");
-    siparis.tipler = productTypes();
+    return siparis;
+}
 
+std::optional<Siparis> SiparisStore::SiparisBul(qint32 Sipnum) const
+{
+    std::optional<Siparis> siparis = baslikBul(Sipnum);
+    if (!siparis)
+        return std::nullopt;
+    siparis->tipler = productTypes();
     const QHash<QString, QStringList> types = OrderLookups(*m_oturum).typesOfOrder(Sipnum);
     const auto typesOf = [&types](const QString &model) { return types.value(foldedText(model)); };
     const QList<OrderLine> lines = readLines(Sipnum);
-    siparis.satirlar = foldLines(lines, siparis.tipler, typesOf);
-    siparis.keptLines = otherLines(Sipnum, lines);
+    siparis->satirlar = foldLines(lines, siparis->tipler, typesOf);
+    QList<qint32> shown;
+    for (const OrderLine &line : lines)
+        shown.append(line.Dotosayi);
+    siparis->keptLines = otherLines(Sipnum, shown);
     return siparis;
 }
 
@@ -159,7 +169,7 @@ QList<OrderLine> SiparisStore::readLines(qint32 Sipnum) const
     return lines;
 }
 
-QList<KeptLine> SiparisStore::otherLines(qint32 Sipnum, const QList<OrderLine> &shownLines) const
+QList<KeptLine> SiparisStore::otherLines(qint32 Sipnum, const QList<qint32> &shownLines) const
 {
     const QString all = u" From SiparisD Where SipnumD = "_s + sqlNumber(Sipnum);
     Recordset counted = m_oturum->sorgula(u"Select Count(*) as n"_s + all);
@@ -167,8 +177,8 @@ QList<KeptLine> SiparisStore::otherLines(qint32 Sipnum, const QList<OrderLine> &
     if (counted.integer(u"n") == shownLines.size())
         return {};
     QStringList shown = {u"0"_s};
-    for (const OrderLine &line : shownLines)
-        shown.append(QString::number(line.Dotosayi));
+    for (const qint32 Dotosayi : shownLines)
+        shown.append(QString::number(Dotosayi));
     Recordset Kayit = m_oturum->sorgula(u"Select *"_s + all + u" and Dotosayi Not In("_s +
                                         shown.join(u',') + u')');
     QList<KeptLine> others;

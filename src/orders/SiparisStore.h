@@ -19,6 +19,10 @@ public:
     /// The order with its lines folded into rows; nothing when there is none,
     /// or none whose customer is defined (headerCustomer() then tells which).
     std::optional<Siparis> SiparisBul(qint32 Sipnum) const;
+    /// The same without its lines.
+    std::optional<Siparis> baslikBul(qint32 Sipnum) const;
+    /// The order's lines besides those with these numbers.
+    QList<KeptLine> otherLines(qint32 Sipnum, const QList<qint32> &shownLines) const;
     /// The customer code in a stored header; nothing when there is no header.
     std::optional<qint32> headerCustomer(double Sipnum) const;
 
@@ -37,7 +41,6 @@ public:
 
 private:
     QList<OrderLine> readLines(qint32 Sipnum) const;
-    QList<KeptLine> otherLines(qint32 Sipnum, const QList<OrderLine> &shownLines) const;
     void addHeader(Siparis &siparis) const;
 
     Oturum *m_oturum;

@@ -2,12 +2,16 @@
 
 #include "Messages.h"
 #include "Numbers.h"
+#include "TurkishText.h"
 
-#include <QAbstractItemView>
+#include <algorithm>
+#include <QClipboard>
 #include <QComboBox>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTableView>
 
 using namespace Qt::StringLiterals;
 
@@ -100,6 +104,27 @@ void selectOnEntry(QLineEdit &box)
     box.installEventFilter(new EntrySelection(&box));
 }
 
+QString chooseTyped(QComboBox &list, const QString &typedBefore, const QString &text)
+{
+    for (const QString &typed : {typedBefore + text, text}) {
+        for (int i = 0; i < list.count(); ++i) {
+            if (searchKey(list.itemText(i)).startsWith(searchKey(typed))) {
+                list.setCurrentIndex(i);
+                return typed;
+            }
+        }
+    }
+    return typedBefore;
+}
+
+bool typesCharacter(const QKeyEvent &event)
+{
+    const Qt::KeyboardModifiers held = event.modifiers();
+    // Both together are AltGr, which types characters.
+    const bool command = held.testFlag(Qt::ControlModifier) != held.testFlag(Qt::AltModifier);
+    return !command && !event.text().isEmpty() && event.text().front().isPrint();
+}
+
 bool isEnter(const QKeyEvent &event)
 {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
@@ -140,6 +165,23 @@ static void paintRow(QAbstractItemView &grid, Paint paint)
     for (int column = 0; column < model->columnCount(current.parent()); ++column)
         paint(*model, current.siblingAtColumn(column));
     grid.setCurrentIndex(current.siblingAtColumn(0));
+}
+
+void copyCells(const QTableView &grid)
+{
+    QModelIndexList cells = grid.selectionModel()->selectedIndexes();
+    if (cells.isEmpty() && grid.currentIndex().isValid())
+        cells.append(grid.currentIndex());
+    cells.removeIf([&](const QModelIndex &cell) { return grid.isColumnHidden(cell.column()); });
+    std::sort(cells.begin(), cells.end()); // by row, then by column
+    if (cells.isEmpty())
+        return;
+    QString text = cells.first().data().toString();
+    for (qsizetype i = 1; i < cells.size(); ++i) {
+        text += cells[i].row() == cells[i - 1].row() ? u'\t' : u'\n';
+        text += cells[i].data().toString();
+    }
+    QGuiApplication::clipboard()->setText(text);
 }
 
 void SatirArkaRenk(QAbstractItemView &grid, const QColor &color)

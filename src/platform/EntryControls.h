@@ -9,6 +9,7 @@ class QComboBox;
 class QKeyEvent;
 class QLineEdit;
 class QPushButton;
+class QTableView;
 
 /// Helpers of the boxes, lists and grids that data are entered with.
 
@@ -30,10 +31,20 @@ void TumunuSec(QLineEdit &box);
 /// from another window or from the box's menu does not count: the cursor stays.
 void selectOnEntry(QLineEdit &box);
 
+/// Chooses the first entry that begins with what was typed so far and now, or
+/// else with what was typed now; returns what counts as typed so far.
+QString chooseTyped(QComboBox &list, const QString &typedBefore, const QString &text);
+
+/// Whether a key press types a character.
+bool typesCharacter(const QKeyEvent &event);
 /// Whether a key press is Enter's, on either part of the keyboard.
 bool isEnter(const QKeyEvent &event);
 /// Lets an Enter that is held down press the button but once.
 void ignoreHeldEnter(QPushButton &button);
+
+/// Puts the selected cells of a grid into the clipboard, or else the current
+/// one: a line for each row, tabs between the columns that are shown.
+void copyCells(const QTableView &grid);
 
 /// Mark the grid's current row, cell by cell, in the model's own roles; the
 /// first column becomes the current one.

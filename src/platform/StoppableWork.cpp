@@ -1,0 +1,20 @@
+#include "StoppableWork.h"
+
+using namespace Qt::StringLiterals;
+
+StoppableWork::StoppableWork(QWidget *parent, const QString &title, const QString &text)
+    : m_box(text, u"Durdur"_s, 0, 0, parent)
+{
+    m_box.setWindowTitle(title);
+    m_box.setWindowModality(Qt::WindowModal);
+    m_box.setMinimumDuration(300);
+}
+
+std::function<bool(int done, int total)> StoppableWork::progress()
+{
+    return [this](int done, int total) {
+        m_box.setMaximum(total);
+        m_box.setValue(done);
+        return !m_box.wasCanceled();
+    };
+}
