@@ -4,6 +4,7 @@
 #include "FrmWebcam.h"
 #include "Giris_Kur.h"
 #include "Giris_Siparis.h"
+#include "Rapor_Genel.h"
 #include "Rapor_Siparis.h"
 #include "Rapor_Siparis2.h"
 #include "Rapor_Ymamul.h"
@@ -109,5 +110,7 @@ MenuScreens menuTable(ScreenServices &services)
         {9, screen<Tanim_Renk>(services)},
         {10, screen<Tanim_Katalog>(services)},
         {11, reportScreen<Rapor_Siparis>(services)},
+        {12, screen<Rapor_Genel>(services)},
+        {13, screen<Rapor_Genel>(services)},
     };
 }

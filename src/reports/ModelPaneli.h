@@ -1,0 +1,28 @@
+#pragma once
+
+#include <memory>
+#include <QWidget>
+
+struct Oturum;
+
+namespace Ui {
+class ModelPaneli;
+}
+
+/// A model beside the lines that it stands in: its picture, its product type,
+/// its molds and its stones.
+class ModelPaneli : public QWidget
+{
+public:
+    explicit ModelPaneli(QWidget *parent = nullptr);
+    ~ModelPaneli() override;
+
+    /// Must outlive it; called once.
+    void setOturum(Oturum &oturum) { m_oturum = &oturum; }
+    /// An empty model empties it. Throws DatabaseError.
+    void goster(const QString &model);
+
+private:
+    Oturum *m_oturum = nullptr;
+    std::unique_ptr<Ui::ModelPaneli> m_ui;
+};

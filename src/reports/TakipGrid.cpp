@@ -1,0 +1,277 @@
+#include "TakipGrid.h"
+
+#include "ChoiceBox.h"
+#include "DateBox.h"
+#include "Dates.h"
+#include "EntryControls.h"
+#include "ListCellDelegate.h"
+#include "Messages.h"
+#include "TakipModel.h"
+#include "Twips.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Twips widths[TakipModel::Columns] = {1800_tw, 1000_tw, 1000_tw, 3200_tw, 1400_tw,
+                                               1400_tw, 1600_tw, 1600_tw, 0_tw};
+
+/// What a date box holds: nothing while only its mask stands there.
+QString dateText(const DateBox &box)
+{
+    const QString text = box.text();
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); }) ? text
+                                                                                      : QString();
+}
+
+} // namespace
+
+TakipGrid::TakipGrid(QWidget *parent)
+    : QTableView(parent),
+      cmbTas(new ChoiceBox(viewport())),
+      cmbTas1(new ChoiceBox(viewport())),
+      trhEdit(new DateBox(viewport()))
+{
+    cmbTas->setObjectName(u"cmbTas"_s);
+    cmbTas->setAccessibleName(u"Sipariş durumu"_s);
+    cmbTas1->setObjectName(u"cmbTas1"_s);
+    cmbTas1->setAccessibleName(u"Üretim durumu"_s);
+    trhEdit->setObjectName(u"trhEdit"_s);
+    trhEdit->setAccessibleName(u"Tarih"_s);
+    for (QWidget *editor : std::initializer_list<QWidget *>{cmbTas, cmbTas1, trhEdit}) {
+        editor->hide();
+        editor->installEventFilter(this);
+    }
+    for (ChoiceBox *list : {cmbTas, cmbTas1})
+        connect(list, &ChoiceBox::chosen, this, &TakipGrid::take);
+    setItemDelegate(new ListCellDelegate(this));
+    setEditTriggers(NoEditTriggers);
+    setSelectionMode(ContiguousSelection);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    setWordWrap(false);
+    verticalHeader()->hide();
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + ListCellDelegate::lineSpace);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(true);
+    connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &TakipGrid::sortBy);
+    connect(horizontalHeader(), &QHeaderView::sectionResized, this, &TakipGrid::placeEditor);
+    connect(this, &QTableView::doubleClicked, this,
+            [this](const QModelIndex &cell) { openEditor(cell); });
+    for (const QScrollBar *bar : {verticalScrollBar(), horizontalScrollBar()})
+        connect(bar, &QScrollBar::valueChanged, this, &TakipGrid::placeEditor);
+}
+
+void TakipGrid::setUp(TakipModel &model, Messages &messages)
+{
+    m_model = &model;
+    m_messages = &messages;
+    setModel(&model);
+    setColumnHidden(TakipModel::OtoSayi, true);
+    connect(&model, &QAbstractItemModel::modelAboutToBeReset, this, &TakipGrid::abandonEdit);
+    spreadColumns();
+}
+
+void TakipGrid::setDuzen(const TakipDuzeni &duzen)
+{
+    m_duzen = duzen;
+    cmbTas->clear();
+    cmbTas->addItems(duzen.siparisDurumlari);
+    cmbTas1->clear();
+    cmbTas1->addItems(duzen.uretimDurumlari);
+}
+
+/// The columns' own widths; the note gets what room is left over.
+void TakipGrid::spreadColumns()
+{
+    if (m_model == nullptr)
+        return;
+    int others = 0;
+    for (int column = 0; column < TakipModel::OtoSayi; ++column) {
+        setColumnWidth(column, qRound(widths[column].pixels(logicalDpiX())));
+        others += column == TakipModel::Aciklama ? 0 : columnWidth(column);
+    }
+    setColumnWidth(TakipModel::Aciklama,
+                   std::max(columnWidth(TakipModel::Aciklama), viewport()->width() - others));
+}
+
+/// In this column's order; once more, the other way round.
+void TakipGrid::sortBy(int column)
+{
+    abandonEdit();
+    QHeaderView *headings = horizontalHeader();
+    const bool down = headings->isSortIndicatorShown() &&
+                      headings->sortIndicatorSection() == column &&
+                      headings->sortIndicatorOrder() == Qt::AscendingOrder;
+    const Qt::SortOrder order = down ? Qt::DescendingOrder : Qt::AscendingOrder;
+    headings->setSortIndicator(column, order);
+    headings->setSortIndicatorShown(true);
+    m_model->sort(column, order);
+}
+
+void TakipGrid::resizeEvent(QResizeEvent *event)
+{
+    QTableView::resizeEvent(event);
+    spreadColumns();
+    placeEditor();
+}
+
+// The editors
+
+void TakipGrid::openEditor(const QModelIndex &cell, const QString &typed)
+{
+    if (!m_duzen.duzenleme || !cell.isValid() || !TakipModel::isEditable(cell.column()))
+        return;
+    abandonEdit();
+    setCurrentIndex(cell);
+    m_cell = cell;
+    if (TakipModel::isDate(cell.column()))
+        openDate(typed);
+    else
+        openList(cell.column() == TakipModel::SipDur ? cmbTas : cmbTas1, typed);
+}
+
+/// A text that is no longer one of the statuses stays until one is chosen.
+void TakipGrid::openList(QComboBox *list, const QString &typed)
+{
+    m_editor = list;
+    m_typed.clear();
+    list->setCurrentIndex(list->findText(m_cell.data().toString(), Qt::MatchFixedString));
+    if (!typed.isEmpty())
+        m_typed = chooseTyped(*list, {}, typed);
+    placeEditor();
+    list->show();
+    list->setFocus();
+}
+
+void TakipGrid::openDate(const QString &typed)
+{
+    m_editor = trhEdit;
+    const QDate there = parseDate(m_cell.data().toString().left(10));
+    trhEdit->setDate(there.isValid() ? there : m_duzen.gun);
+    placeEditor();
+    trhEdit->show();
+    trhEdit->setFocus();
+    trhEdit->selectAll();
+    if (!typed.isEmpty()) {
+        trhEdit->clear();
+        trhEdit->setCursorPosition(0);
+        trhEdit->insert(typed);
+        trhEdit->setModified(true);
+    }
+}
+
+void TakipGrid::placeEditor()
+{
+    if (m_editor != nullptr)
+        m_editor->setGeometry(visualRect(m_cell));
+}
+
+bool TakipGrid::hasUnfinishedEdit() const
+{
+    if (m_editor == nullptr)
+        return false;
+    if (m_editor == trhEdit)
+        return trhEdit->isModified() && dateText(*trhEdit) != m_cell.data().toString();
+    const auto *list = static_cast<const QComboBox *>(m_editor);
+    return list->currentIndex() >= 0 && list->currentText() != m_cell.data().toString();
+}
+
+bool TakipGrid::finishEdit()
+{
+    if (hasUnfinishedEdit())
+        take();
+    else
+        abandonEdit();
+    return m_editor == nullptr;
+}
+
+void TakipGrid::abandonEdit()
+{
+    if (m_editor == nullptr)
+        return;
+    QWidget *editor = std::exchange(m_editor, nullptr);
+    // The window may be in the background, behind a message box.
+    const bool hadFocus = editor == window()->focusWidget();
+    m_cell = QPersistentModelIndex();
+    editor->hide();
+    if (hadFocus)
+        setFocus();
+}
+
+/// Writes what stands in the editor into its cell and closes it. What is no
+/// date stays in the editor.
+void TakipGrid::take()
+{
+    if (m_editor == nullptr)
+        return;
+    if (m_editor == trhEdit) {
+        const bool untouched = !trhEdit->isModified() && !m_cell.data().toString().isEmpty();
+        if (!untouched && !m_model->setData(m_cell, dateText(*trhEdit))) {
+            m_messages->say(window(), u"Tarih Hatali."_s);
+            trhEdit->setFocus();
+            trhEdit->selectAll();
+            return;
+        }
+    } else if (const auto *list = static_cast<QComboBox *>(m_editor); list->currentIndex() >= 0) {
+        m_model->setData(m_cell, list->currentText());
+    }
+    abandonEdit();
+}
+
+// Keys
+
+void TakipGrid::keyPressEvent(QKeyEvent *event)
+{
+    const QModelIndex cell = currentIndex();
+    if (event->matches(QKeySequence::Copy))
+        copyCells(*this);
+    else if (isEnter(*event) || event->key() == Qt::Key_F2)
+        openEditor(cell);
+    else if (event->key() == Qt::Key_F9 && cell.isValid())
+        sortBy(cell.column());
+    else if (event->key() == Qt::Key_Delete) {
+        if (!m_duzen.duzenleme && cell.isValid() && TakipModel::isEditable(cell.column()))
+            m_model->setData(cell, QString());
+    } else if (event->key() == Qt::Key_Escape)
+        Q_EMIT abandoned();
+    else if (!typesCharacter(*event))
+        QTableView::keyPressEvent(event);
+    else if (!TakipModel::isDate(cell.column()) || event->text().front().isDigit())
+        openEditor(cell, event->text());
+}
+
+bool TakipGrid::eventFilter(QObject *watched, QEvent *event)
+{
+    if (m_editor == nullptr || watched != m_editor)
+        return QTableView::eventFilter(watched, event);
+    if (event->type() == QEvent::KeyPress)
+        return editorKey(static_cast<QKeyEvent *>(event));
+    if (event->type() == QEvent::FocusOut) {
+        // Only Enter and a choice write: who goes elsewhere has not decided.
+        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
+        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+            abandonEdit();
+    }
+    return false;
+}
+
+bool TakipGrid::editorKey(QKeyEvent *event)
+{
+    if (isEnter(*event)) {
+        take();
+        return true;
+    }
+    if (event->key() == Qt::Key_Escape) {
+        abandonEdit();
+        return true;
+    }
+    if (m_editor == trhEdit || !typesCharacter(*event))
+        return false;
+    m_typed = chooseTyped(*static_cast<QComboBox *>(m_editor), m_typed, event->text());
+    return true;
+}

@@ -1,0 +1,288 @@
+#include "UretimSekmesi.h"
+
+#include "Dates.h"
+#include "DocumentViewer.h"
+#include "EntryControls.h"
+#include "Guarded.h"
+#include "LookupModel.h"
+#include "ModelPaneli.h"
+#include "Numbers.h"
+#include "Oturum.h"
+#include "SecimDelegate.h"
+#include "SecimModeli.h"
+#include "StoppableWork.h"
+#include "Twips.h"
+#include "ui_UretimSekmesi.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScopeGuard>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Twips widths[SecimModeli::shownColumns] = {1400_tw, 900_tw, 2200_tw, 900_tw};
+constexpr int customerColumn = 2;
+
+} // namespace
+
+UretimSekmesi::UretimSekmesi(const ScreenContext &context, QWidget *parent)
+    : QWidget(parent),
+      m_context(context),
+      m_store(context.oturum),
+      m_ui(std::make_unique<Ui::UretimSekmesi>()),
+      m_siparisler(new LookupModel(this)),
+      m_secim(new SecimModeli(*m_siparisler, this))
+{
+    m_ui->setupUi(this);
+    m_ui->modelPaneli->setOturum(context.oturum);
+    setUpFilters();
+    setUpList();
+    connectControls();
+    m_siparisler->open(openOrders(context.oturum, {}));
+    spreadColumns();
+    showSelection();
+}
+
+UretimSekmesi::~UretimSekmesi() = default;
+
+void UretimSekmesi::setUpFilters()
+{
+    const QLocale turkish(QLocale::Turkish);
+    m_ui->Trh00->setLocale(turkish);
+    m_ui->Trh01->setLocale(turkish);
+    // From "no date" on: lines that production has not begun are to be made, too.
+    m_ui->Trh00->setDate(noDate());
+    m_ui->Trh01->setDate(m_context.oturum.CalismaTarihi);
+    m_ui->Sipdur0->addItem(u"Hepsi"_s);
+    m_ui->Sipdur0->addItems(m_store.siparisDurumlari());
+    m_ui->Uretdur0->addItem(u"Hepsi"_s);
+    m_ui->Uretdur0->addItems(m_store.uretimDurumlari());
+    m_ui->CmbYazdir0->addItems(
+        {u"Yazdırma şekli"_s, u"Resimli üretim listesi"_s, u"Yazılı üretim listesi"_s});
+}
+
+void UretimSekmesi::setUpList()
+{
+    QTableView *list = m_ui->Rapor0;
+    list->setModel(m_secim);
+    list->setItemDelegate(new SecimDelegate(list));
+    list->installEventFilter(this);
+    list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    list->verticalHeader()->setDefaultSectionSize(list->fontMetrics().height() +
+                                                  ListCellDelegate::lineSpace);
+    list->horizontalHeader()->setHighlightSections(false);
+    list->horizontalHeader()->setSectionsClickable(true);
+    m_ui->splitter->setStretchFactor(0, 5);
+    m_ui->splitter->setStretchFactor(1, 4);
+    m_ui->splitter->setStretchFactor(2, 4);
+    for (QTimer *timer : {&m_orderTimer, &m_modelTimer})
+        timer->setSingleShot(true);
+}
+
+void UretimSekmesi::connectControls()
+{
+    QTableView *list = m_ui->Rapor0;
+    Messages &messages = m_context.messages;
+    connect(list->horizontalHeader(), &QHeaderView::sectionClicked, this, &UretimSekmesi::sortBy);
+    connect(list, &QTableView::doubleClicked, this,
+            [this](const QModelIndex &cell) { m_secim->toggle(cell.row()); });
+    connect(list->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this] { m_orderTimer.start(0); });
+    connect(m_ui->Yedek0->rows()->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+            [this] { m_modelTimer.start(0); });
+    connect(&m_orderTimer, &QTimer::timeout, this, &UretimSekmesi::refresh);
+    connect(&m_modelTimer, &QTimer::timeout, this,
+            [this, &messages] { guarded(messages, this, [this] { showModel(); }); });
+    connect(m_siparisler, &LookupModel::progressed, this, &UretimSekmesi::showProgress);
+    connect(m_siparisler, &LookupModel::failed, this, [this, &messages](const QString &reason) {
+        messages.say(this, reason, MessageIcon::Critical, u"HATA"_s);
+    });
+    connect(m_secim, &SecimModeli::secimChanged, this, &UretimSekmesi::showSelection);
+    connect(m_ui->Arama, &QLineEdit::textChanged, m_siparisler, &LookupModel::narrow);
+    for (QDateEdit *date : {m_ui->Trh00, m_ui->Trh01})
+        connect(date, &QDateEdit::dateChanged, this, &UretimSekmesi::refresh);
+    for (QComboBox *status : {m_ui->Sipdur0, m_ui->Uretdur0})
+        connect(status, &QComboBox::currentIndexChanged, this, &UretimSekmesi::refresh);
+    connect(m_ui->CmbYazdir0, &ChoiceBox::chosen, this, &UretimSekmesi::print);
+}
+
+void UretimSekmesi::focusFirst()
+{
+    m_ui->Rapor0->setFocus();
+}
+
+// Keys
+
+/// Enter goes on from filter to filter, and prints on the choice of the sheet.
+void UretimSekmesi::keyPressEvent(QKeyEvent *event)
+{
+    if (!isEnter(*event)) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (m_ui->CmbYazdir0->hasFocus())
+        print();
+    else if (m_ui->Arama->hasFocus())
+        m_ui->Rapor0->setFocus(Qt::TabFocusReason);
+    else
+        focusNextChild();
+}
+
+bool UretimSekmesi::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_ui->Rapor0 && event->type() == QEvent::KeyPress)
+        return listKey(static_cast<QKeyEvent *>(event));
+    return QWidget::eventFilter(watched, event);
+}
+
+bool UretimSekmesi::listKey(QKeyEvent *event)
+{
+    const QModelIndex cell = m_ui->Rapor0->currentIndex();
+    if (event->key() == Qt::Key_Space || event->key() == Qt::Key_Insert) {
+        if (cell.isValid() && !event->isAutoRepeat())
+            m_secim->toggle(cell.row());
+    } else if (event->key() == Qt::Key_F9) {
+        if (cell.isValid())
+            sortBy(cell.column());
+    } else if (event->matches(QKeySequence::Copy)) {
+        copyCells(*m_ui->Rapor0);
+    } else if (typesCharacter(*event)) {
+        // What is typed on the list looks for an order.
+        m_ui->Arama->setText(m_ui->Arama->text() + event->text());
+    } else if (event->key() == Qt::Key_Backspace) {
+        m_ui->Arama->setText(m_ui->Arama->text().chopped(m_ui->Arama->text().isEmpty() ? 0 : 1));
+    } else {
+        return false;
+    }
+    return true;
+}
+
+// The order list
+
+void UretimSekmesi::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    spreadColumns();
+}
+
+/// The columns' own widths; the customer gets what room is left over.
+void UretimSekmesi::spreadColumns()
+{
+    QTableView *list = m_ui->Rapor0;
+    for (int column = 0; column < m_secim->columnCount(); ++column)
+        list->setColumnHidden(column, column >= SecimModeli::shownColumns);
+    for (int column = 0; column < SecimModeli::shownColumns; ++column) {
+        list->setColumnWidth(column, qRound(widths[column].pixels(logicalDpiX())));
+        list->horizontalHeader()->setSectionResizeMode(
+            column, column == customerColumn ? QHeaderView::Stretch : QHeaderView::Interactive);
+    }
+}
+
+/// In this column's order; once more, the other way round.
+void UretimSekmesi::sortBy(int column)
+{
+    const bool down =
+        m_siparisler->sortColumn() == column && m_siparisler->sortOrder() == Qt::AscendingOrder;
+    const Qt::SortOrder order = down ? Qt::DescendingOrder : Qt::AscendingOrder;
+    QHeaderView *headings = m_ui->Rapor0->horizontalHeader();
+    headings->setSortIndicator(column, order);
+    headings->setSortIndicatorShown(true);
+    m_siparisler->sort(column, order);
+}
+
+/// The list always has a current row; its lines stand beside it.
+void UretimSekmesi::showProgress()
+{
+    QTableView *list = m_ui->Rapor0;
+    if (!list->currentIndex().isValid() && m_secim->rowCount() > 0)
+        list->setCurrentIndex(m_secim->index(0, 0));
+    if (m_secim->rowCount() == 0)
+        m_orderTimer.start(0);
+    const QString open = m_siparisler->isComplete() ? QString() : u"…"_s;
+    m_ui->KayitSayisi->setText(
+        u"%1%2 sipariş"_s.arg(formatNumber(m_siparisler->rowCount(), u"#,##0"), open));
+}
+
+void UretimSekmesi::showSelection()
+{
+    constexpr qsizetype mostNamed = 12;
+    const QList<SecilenSiparis> secim = m_secim->secim();
+    QStringList numbers;
+    for (const SecilenSiparis &siparis : secim.first(std::min(mostNamed, secim.size())))
+        numbers.append(QString::number(siparis.Sipnum));
+    if (secim.size() > mostNamed)
+        numbers.append(u"…"_s);
+    m_ui->secimNotu->setText(
+        secim.isEmpty()
+            ? u"Yazdırılacak siparişler çift tıklanarak ya da boşluk tuşuyla seçilir."_s
+            : u"%1 sipariş seçili: %2"_s.arg(QString::number(secim.size()), numbers.join(u", "_s)));
+}
+
+// The current order
+
+UretimFiltre UretimSekmesi::filtre() const
+{
+    const auto chosen = [](const QComboBox *list) {
+        return list->currentIndex() > 0 ? std::optional(list->currentText()) : std::nullopt;
+    };
+    return {m_ui->Trh00->date(), m_ui->Trh01->date(), chosen(m_ui->Sipdur0),
+            chosen(m_ui->Uretdur0)};
+}
+
+void UretimSekmesi::refresh()
+{
+    guarded(m_context.messages, this, [this] {
+        const QModelIndex current = m_ui->Rapor0->currentIndex();
+        ReportTable table = current.isValid()
+                                ? m_store.adetler(m_secim->Sipnum(current.row()), filtre())
+                                : m_store.adetler(0, filtre());
+        const bool any = table.hasLines();
+        m_ui->Yedek0->setTable(table);
+        m_ui->siparisBasligi->setText(current.isValid() ? table.title : QString());
+        if (any)
+            m_ui->Yedek0->rows()->setCurrentIndex(m_ui->Yedek0->rows()->model()->index(0, 0));
+        m_modelTimer.start(0);
+    });
+}
+
+void UretimSekmesi::showModel()
+{
+    const QModelIndex current = m_ui->Yedek0->rows()->currentIndex();
+    m_ui->modelPaneli->goster(current.isValid() ? current.siblingAtColumn(0).data().toString()
+                                                : QString());
+}
+
+// The sheet
+
+void UretimSekmesi::print()
+{
+    if (m_ui->CmbYazdir0->currentIndex() <= 0)
+        return;
+    // So that the same sheet can be chosen again.
+    const auto toFirst = qScopeGuard([this] { m_ui->CmbYazdir0->setCurrentIndex(0); });
+    guarded(m_context.messages, this, [this] {
+        try {
+            showSheet();
+        } catch (const UretimReddi &red) {
+            const bool none = red.neden() == UretimReddi::Neden::SecimYok;
+            m_context.messages.say(this, QString::fromUtf8(red.what()), MessageIcon::Exclamation,
+                                   none ? u"HATA"_s : QString());
+        }
+    });
+}
+
+void UretimSekmesi::showSheet()
+{
+    const auto yazdirma =
+        m_ui->CmbYazdir0->currentIndex() == 1 ? UretimYazdirma::Resimli : UretimYazdirma::Yazili;
+    const UretimListesi liste = uretimListesi(m_context.oturum, m_secim->secim(), filtre());
+    std::optional<PrintDocument> rapor;
+    {
+        StoppableWork work(this, u"URETIM RAPORU"_s, u"Resimler okunuyor..."_s);
+        rapor = uretimRaporu(m_context.oturum, liste, yazdirma, work.progress());
+    }
+    if (rapor)
+        m_context.viewer.show(this, *rapor);
+}

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "ScreenContext.h"
+#include "UretimListesi.h"
+#include "UretimStore.h"
+
+#include <memory>
+#include <QTimer>
+#include <QWidget>
+
+class LookupModel;
+class SecimModeli;
+
+namespace Ui {
+class UretimSekmesi;
+}
+
+/// The tab "URETIM RAPORU": the list of all orders, what is to be made of the
+/// current one, and the production sheet of those marked.
+class UretimSekmesi : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit UretimSekmesi(const ScreenContext &context, QWidget *parent = nullptr);
+    ~UretimSekmesi() override;
+
+    /// Reads the current order's lines anew.
+    void refresh();
+    void focusFirst();
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    void setUpList();
+    void setUpFilters();
+    void connectControls();
+    bool listKey(QKeyEvent *event);
+    void spreadColumns();
+    void sortBy(int column);
+    void showProgress();
+    void showSelection();
+    UretimFiltre filtre() const;
+    void showModel();
+    void print();
+    void showSheet();
+
+    ScreenContext m_context;
+    UretimStore m_store;
+    std::unique_ptr<Ui::UretimSekmesi> m_ui;
+    LookupModel *m_siparisler;
+    SecimModeli *m_secim;
+    QTimer m_orderTimer; ///< a held arrow key passes orders without reading each
+    QTimer m_modelTimer;
+};

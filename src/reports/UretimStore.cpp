@@ -1,0 +1,151 @@
+#include "UretimStore.h"
+
+#include "Numbers.h"
+#include "Oturum.h"
+#include "SqlText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString countPicture()
+{
+    return u"##0.00"_s;
+}
+
+QString condition(const UretimFiltre &filtre)
+{
+    QString sql = u"and Trhbas >= "_s + sqlDate(filtre.bas) + u" and Trhbas <= "_s +
+                  sqlDate(filtre.bit) + u' ';
+    if (filtre.sipDur)
+        sql += u"and Drm1 = "_s + sqlText(*filtre.sipDur) + u' ';
+    if (filtre.uretDur)
+        sql += u"and Drm2 = "_s + sqlText(*filtre.uretDur) + u' ';
+    return sql;
+}
+
+} // namespace
+
+QStringList UretimStore::siparisDurumlari() const
+{
+    return texts(u"Select * From Durum1"_s, u"d1_tanim");
+}
+
+QStringList UretimStore::uretimDurumlari() const
+{
+    return texts(u"Select * From Durum2"_s, u"d2_tanim");
+}
+
+QStringList UretimStore::texts(const QString &sql, QStringView field) const
+{
+    Recordset Kayit = m_oturum->sorgula(sql);
+    QStringList result;
+    while (Kayit.next())
+        result.append(Kayit.text(field));
+    return result;
+}
+
+ReportTable UretimStore::adetler(qint32 Sipnum, const UretimFiltre &filtre) const
+{
+    using Kind = ReportColumnKind;
+    ReportTable table;
+    table.title = u"Sipariş %1"_s.arg(Sipnum);
+    table.columns = {{u"MODEL"_s, Kind::Model}, {u"ADET"_s, Kind::Number}, {u"TİP"_s}};
+    Recordset Kayit = m_oturum->sorgula(
+        u"Select Sipmodel, Kisaad, Sum(Sipadet) as Topadet FROM SiparisD INNER JOIN UrunTipi "
+        "ON SiparisD.SipUruntip = UrunTipi.TipID "
+        "Where SipnumD = "_s +
+        sqlNumber(Sipnum) + u' ' + condition(filtre) +
+        u"Group by Sipmodel, Kisaad Order by Sipmodel, Kisaad;"_s);
+    while (Kayit.next()) {
+        table.rows.append(
+            ReportRow{{Kayit.text(u"Sipmodel"), Kayit.number(u"Topadet"), Kayit.text(u"Kisaad")}});
+    }
+    return table;
+}
+
+QList<UretimSatiri> UretimStore::satirlar(const QList<qint32> &siparisler,
+                                          const UretimFiltre &filtre) const
+{
+    QStringList list;
+    for (const qint32 Sipnum : siparisler)
+        list.append(sqlNumber(Sipnum));
+    Recordset Kayit = m_oturum->sorgula(
+        u"Select SipnumD, Sipmodel, Sipuruntip, Kisaad, Siprenk, SipAck, Drm1, Drm2, "
+        "Sum(Sipadet) as Topadet "
+        "FROM SiparisD INNER JOIN UrunTipi ON SiparisD.SipUruntip = UrunTipi.TipID "
+        "Where SipnumD In("_s +
+        list.join(u',') + u')' + condition(filtre) +
+        u" Group by SipnumD, Sipmodel, Sipuruntip, Kisaad, Siprenk, Sipack, Drm1, Drm2;"_s);
+    QList<UretimSatiri> rows;
+    while (Kayit.next()) {
+        rows.append({qint32(Kayit.integer(u"SipnumD")), Kayit.text(u"Sipmodel"),
+                     Kayit.text(u"Kisaad"), Kayit.text(u"Siprenk"), Kayit.text(u"SipAck"),
+                     Kayit.text(u"Drm1"), Kayit.text(u"Drm2"), Kayit.number(u"Topadet")});
+    }
+    return rows;
+}
+
+UretimMusterisi UretimStore::musteri(qint32 Sipnum) const
+{
+    Recordset Kayit =
+        m_oturum->sorgula(u"SELECT Firadi, SiparisB.Aciklama as SAck "
+                          "FROM SiparisB INNER JOIN Firma ON SiparisB.SipFirkod = Firma.Firkod "
+                          "Where Sipnum = "_s +
+                          sqlNumber(Sipnum));
+    if (!Kayit.next())
+        return {};
+    return {Kayit.text(u"Firadi"), Kayit.text(u"SAck")};
+}
+
+QList<UretimMalzemesi> UretimStore::kaliplar(const QString &model) const
+{
+    return malzemeler(u"SELECT Kalipkodu, Sum(M_Adet) as Topadet "
+                      "FROM Model INNER JOIN Kalip ON Model.M_Kod = Kalip.KalipID "
+                      "Where model = "_s +
+                          sqlText(model) + u" and M_Tip = 1 Group by Kalipkodu "_s,
+                      u"Kalipkodu");
+}
+
+QList<UretimMalzemesi> UretimStore::taslar(const QString &model) const
+{
+    return malzemeler(u"SELECT Taskodu, Sum(M_Adet) as Topadet "
+                      "FROM Model INNER JOIN Tas ON Model.M_Kod = Tas.TasID "
+                      "Where model = "_s +
+                          sqlText(model) + u" and M_Tip = 0 Group by Taskodu "_s,
+                      u"Taskodu");
+}
+
+QList<UretimMalzemesi> UretimStore::malzemeler(const QString &sql, QStringView codeField) const
+{
+    Recordset Kayit = m_oturum->sorgula(sql);
+    QList<UretimMalzemesi> result;
+    while (Kayit.next())
+        result.append({Kayit.text(codeField), Kayit.number(u"Topadet")});
+    return result;
+}
+
+QStringList UretimStore::modelTipleri(const QString &model) const
+{
+    QStringList names = texts(u"SELECT Kisaad FROM Model INNER JOIN UrunTipi "
+                              "ON Model.M_Uruntip = UrunTipi.TipID Where Model = "_s +
+                                  sqlText(model),
+                              u"Kisaad");
+    names.removeDuplicates(); // a model has a row for each of its materials
+    return names;
+}
+
+QString malzemeAdedi(double adet)
+{
+    return formatNumber(adet, countPicture());
+}
+
+ReportTable malzemeTable(const QString &heading, const QList<UretimMalzemesi> &malzemeler)
+{
+    ReportTable table;
+    table.title = heading;
+    table.columns = {{heading}, {u"ADET"_s, ReportColumnKind::Number, countPicture()}};
+    for (const UretimMalzemesi &malzeme : malzemeler)
+        table.rows.append(ReportRow{{malzeme.kod, malzeme.adet}});
+    return table;
+}

@@ -1,0 +1,276 @@
+#include "UretimStore.h"
+#include "Dates.h"
+#include "OrderFixture.h"
+#include "SiparisTakip.h"
+#include "SqliteEngine.h"
+#include "TestRegistry.h"
+#include "TurkishText.h"
+
+#include <map>
+#include <QtTest>
+#include <random>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A stored line, read without any condition.
+struct Line
+{
+    int order;
+    int type;
+    QStringList texts; ///< model, colour, note, order status, production status
+    double count;
+    QDate begin;
+};
+
+/// Orders of chance: names in several spellings, types that are gone or share a
+/// short name, statuses and dates set or not, nulls.
+struct RandomOrders : OrderFixture
+{
+    RandomOrders()
+    {
+        Transaction all(*oturum.Veritabani);
+        Recordset types = oturum.Veritabani->table(u"UrunTipi"_s);
+        types.addNew();
+        types.set(u"UrunTipi", u"Alyans"_s);
+        types.set(u"KisaAD", u"yzk"_s);
+        types.update();
+        Recordset set = oturum.Veritabani->table(u"SiparisD"_s);
+        for (int i = 0; i < 600; ++i)
+            addLine(set);
+        all.commit();
+    }
+
+    QList<Line> lines() const
+    {
+        Recordset set = oturum.Veritabani->table(u"SiparisD"_s);
+        QList<Line> result;
+        while (set.next()) {
+            result.append({int(set.integer(u"SipnumD")),
+                           int(set.integer(u"SipUruntip")),
+                           {set.text(u"SipModel"), set.text(u"Siprenk"), set.text(u"SipAck"),
+                            set.text(u"Drm1"), set.text(u"Drm2")},
+                           set.number(u"SipAdet"),
+                           set.date(u"Trhbas")});
+        }
+        return result;
+    }
+    /// By number; a type that is gone has none.
+    std::map<int, QString> shortNames() const
+    {
+        std::map<int, QString> names;
+        Recordset set = oturum.Veritabani->table(u"UrunTipi"_s);
+        while (set.next())
+            names[int(set.integer(u"TipID"))] = set.text(u"KisaAD");
+        return names;
+    }
+    template <typename Value>
+    Value oneOf(const QList<Value> &values)
+    {
+        return values[qsizetype(random() % unsigned(values.size()))];
+    }
+
+    std::mt19937 random{12};
+
+private:
+    void addLine(Recordset &set)
+    {
+        set.addNew();
+        set.set(u"SipnumD", oneOf<int>({1, 2, 3, 7}));
+        set.set(u"SipModel", oneOf<QString>({u"A75"_s, u"a75"_s, u"İnci-1"_s, u"yok"_s}));
+        set.set(u"SipUruntip", oneOf<int>({1, 2, 3, 4, 9}));
+        set.set(u"Siprenk", oneOf<QString>({u"SR"_s, u"BY"_s, u"yok"_s}));
+        set.set(u"SipAck", oneOf<QString>({u""_s, u"O'Hara"_s, QString()}));
+        set.set(u"Drm1", oneOf<QString>({u""_s, u"HAZIR"_s, u"O'X"_s}));
+        set.set(u"Drm2", oneOf<QString>({u""_s, u"DÖKÜM"_s, u"döküm"_s}));
+        set.set(u"SipAdet", int(random() % 9));
+        if (random() % 8 != 0)
+            set.set(u"Trhbas", oneOf<QDate>({noDate(), QDate(2012, 3, 1), QDate(2012, 3, 9)}));
+        set.update();
+    }
+};
+
+QList<UretimFiltre> allFilters()
+{
+    QList<UretimFiltre> filters;
+    const QList<std::optional<QString>> orderStatuses = {std::nullopt, u"HAZIR"_s, u"O'X"_s};
+    const QList<std::optional<QString>> productionStatuses = {std::nullopt, u"DÖKÜM"_s, u"yok"_s};
+    for (const auto &[begin, end] :
+         {std::pair{noDate(), QDate(2012, 3, 9)}, std::pair{QDate(2012, 3, 1), QDate(2012, 3, 8)},
+          std::pair{QDate(2012, 3, 9), QDate(2012, 3, 1)}}) {
+        for (const auto &orderStatus : orderStatuses) {
+            for (const auto &productionStatus : productionStatuses)
+                filters.append({begin, end, orderStatus, productionStatus});
+        }
+    }
+    return filters;
+}
+
+bool passes(const Line &line, const UretimFiltre &filter)
+{
+    return line.begin.isValid() && line.begin >= filter.bas && line.begin <= filter.bit &&
+           (!filter.sipDur || sameText(line.texts[3], *filter.sipDur)) &&
+           (!filter.uretDur || sameText(line.texts[4], *filter.uretDur));
+}
+
+QString key(QStringList words)
+{
+    for (QString &word : words)
+        word = foldedText(word);
+    return words.join(u'|');
+}
+
+using Sums = std::map<QString, double>;
+
+} // namespace
+
+class UretimStoreTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void addsUpWhatEveryFilterLeaves();
+    void givesMaterialsOfAllTypes();
+    void tellsWhoMayEdit_data();
+    void tellsWhoMayEdit();
+    void opensAnOrder();
+    void savesLinesOneByOne();
+};
+
+void UretimStoreTest::addsUpWhatEveryFilterLeaves()
+{
+    RandomOrders company;
+    const UretimStore store(company.oturum);
+    const std::map<int, QString> names = company.shortNames();
+    const QList<qint32> orders = {7, 1, 3};
+    for (const UretimFiltre &filter : allFilters()) {
+        Sums byModel;
+        Sums byLine;
+        for (const Line &line : company.lines()) {
+            if (!names.contains(line.type) || !passes(line, filter))
+                continue;
+            const QString name = names.at(line.type);
+            if (line.order == 1)
+                byModel[key({line.texts[0], name})] += line.count;
+            if (orders.contains(line.order))
+                byLine[key(QStringList{QString::number(line.order), name} + line.texts)] +=
+                    line.count;
+        }
+        Sums shown;
+        const ReportTable table = store.adetler(1, filter);
+        for (const ReportRow &row : table.rows)
+            shown[key({row.values[0].toString(), row.values[2].toString()})] +=
+                row.values[1].toDouble();
+        QCOMPARE(shown, byModel);
+        QCOMPARE(std::size_t(table.rows.size()), byModel.size());
+        Sums printed;
+        for (const UretimSatiri &row : store.satirlar(orders, filter))
+            printed[key({QString::number(row.SipnumD), row.KisaAD, row.model, row.renk,
+                         row.aciklama, row.durum1, row.durum2})] += row.topadet;
+        QCOMPARE(printed, byLine);
+    }
+}
+
+void UretimStoreTest::givesMaterialsOfAllTypes()
+{
+    OrderFixture company;
+    const UretimStore store(company.oturum);
+    const auto texts = [](const QList<UretimMalzemesi> &materials) {
+        QStringList result;
+        for (const UretimMalzemesi &material : materials)
+            result.append(material.kod + u' ' + malzemeAdedi(material.adet));
+        return result;
+    };
+    QCOMPARE(texts(store.kaliplar(u"a75"_s)), QStringList({u"K-1 1.00"_s, u"K-2 2.00"_s}));
+    QCOMPARE(texts(store.taslar(u"a75"_s)), QStringList{u"ZRK 2 4.00"_s});
+    QCOMPARE(store.modelTipleri(u"A75"_s), QStringList({u"YZK"_s, u"KLY"_s}));
+    QVERIFY(store.taslar(u"O'yok"_s).isEmpty());
+}
+
+void UretimStoreTest::tellsWhoMayEdit_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("number");
+    QTest::addColumn<bool>("may");
+    QTest::newRow("administrator in small letters") << u"admin"_s << 0 << true;
+    QTest::newRow("no capital of this name") << u"admın"_s << 0 << false;
+    QTest::newRow("extra right") << u"şifresiz"_s << 4 << true;
+    QTest::newRow("none") << u"eski"_s << 3 << false;
+    QTest::newRow("no such user") << u"yok"_s << 77 << false;
+}
+
+void UretimStoreTest::tellsWhoMayEdit()
+{
+    QFETCH(QString, name);
+    QFETCH(int, number);
+    OrderFixture company;
+    company.oturum.Veritabani->execute(u"Update Users Set user_yetki1 = 1 Where User_ID = 4"_s);
+    company.oturum.KullaniciAdi = name;
+    company.oturum.KullaniciNo = number;
+    QTEST(SiparisTakip(company.oturum).duzenlemeYetkisi(), "may");
+}
+
+void UretimStoreTest::opensAnOrder()
+{
+    OrderFixture company;
+    company.addLine(1, 3, u"A75"_s, 1, u"BY"_s, 4);
+    company.addLine(1, 4, u"A75"_s, 1, u"silik"_s, 8);
+    const SiparisTakip takip(company.oturum);
+    const std::optional<TakipSiparisi> found = takip.SiparisBul(1);
+    QVERIFY(found);
+    QCOMPARE(found->baslik.FirAdi, u"Işık Kuyumculuk"_s);
+    QStringList lines;
+    for (const TakipSatiri &line : found->satirlar)
+        lines.append(u"%1 %2 %3"_s.arg(line.model, line.renk).arg(line.adet));
+    QCOMPARE(lines, QStringList({u"A75 SR 3"_s, u"A75 SR 1"_s, u"A75 BY 4"_s, u"İnci-1 BY 2"_s}));
+    QVERIFY(!found->satirlar.first().state.basTrh.isValid());
+    QCOMPARE(found->gizliSatirlar.size(), 1);
+    QCOMPARE(found->gizliSatirlar.first().renk, u"silik"_s);
+    QVERIFY(!takip.SiparisBul(99));
+}
+
+void UretimStoreTest::savesLinesOneByOne()
+{
+    OrderFixture company;
+    // Alike but for the counter; an old line with nulls; one whose colour is gone.
+    company.addLine(3, 2, u"A75"_s, 1, u"BY"_s, 1);
+    company.addLine(3, 3, u"boş"_s, 1, u"SR"_s, 1);
+    company.addLine(3, 4, u"A75"_s, 1, u"silik"_s, 8, u"ESKİ"_s);
+    Database &db = *company.oturum.Veritabani;
+    db.execute(u"Update SiparisD Set Drm2 = Null, Trhbas = Null Where SipModel = 'boş'"_s);
+    const SiparisTakip takip(company.oturum);
+    QList<TakipSatiri> lines = takip.SiparisBul(3)->satirlar;
+    QCOMPARE(lines.size(), 3);
+    lines[0].state.durum1 = u"HAZIR"_s;
+    lines[0].state.bitTrh = QDateTime(QDate(2012, 5, 4), QTime(0, 0), Qt::UTC);
+    lines[1].state.durum1 = u"O'X"_s;
+    lines[2].state.durum2 = u"  "_s;
+    TakipSatiri gone = lines[0];
+    gone.Dotosayi = 999;
+    lines.prepend(gone);
+    db.engine().run(u"CREATE TRIGGER t BEFORE UPDATE ON SiparisD WHEN NEW.Drm1 = 'HAZIR' BEGIN "
+                    "SELECT RAISE(ABORT, 'satır bozuk'); END"_s);
+    QStringList errors;
+    const auto tell = [&](const QString &text) { errors.append(text); };
+    const auto goOn = [](int, int) { return true; };
+    QVERIFY(takip.kaydet(3, lines, tell, goOn));
+    QCOMPARE(errors, QStringList{u"Kayıt, tablonun anahtarlarına uymuyor. (satır bozuk)"_s});
+    QCOMPARE(company.field(3, u"Drm1"), QStringList({u""_s, u"O'X"_s, u""_s, u"ESKİ"_s}));
+
+    db.engine().run(u"DROP TRIGGER t"_s);
+    errors.clear();
+    const auto stopAtThird = [](int done, int) { return done < 2; };
+    QVERIFY(!takip.kaydet(3, lines, tell, stopAtThird));
+    QVERIFY(errors.isEmpty());
+    QCOMPARE(company.field(3, u"Drm1"), QStringList({u"HAZIR"_s, u"O'X"_s, u""_s, u"ESKİ"_s}));
+    // An empty status is stored as an empty text and no date as 01.01.2000.
+    Recordset old = db.query(u"Select * From SiparisD Where SipModel = 'boş'"_s);
+    QVERIFY(old.next());
+    QVERIFY(!old.isNull(u"Drm2"));
+    QCOMPARE(old.text(u"Drm2"), QString());
+    QCOMPARE(old.date(u"Trhbas"), noDate());
+}
+
+KUYUM_TEST(UretimStoreTest)
+#include "UretimStoreTest.moc"
