@@ -33,6 +33,10 @@ constexpr Command commands[] = {
      "  kuyum rapor siparis-tas|yarimamul VERITABANI SIPARIS [--tarih G.A.Y] [--doviz USD] "
      "--csv|--xlsx|--pdf DOSYA",
      raporCommand, true},
+    {u"uretim",
+     u"kuyum uretim VERITABANI SIPARIS[,SIPARIS...] --bas G.A.Y --bit G.A.Y --pdf DOSYA "
+     "[--resimli [--resim KLASOR]] [--sipdur DURUM] [--uretdur DURUM]",
+     uretimCommand, true},
     {u"sorgu", u"kuyum sorgu VERITABANI \"SELECT ...\"", sorguCommand},
     {u"demo", u"kuyum demo KLASOR [--olcek N]", demoCommand, true},
 };

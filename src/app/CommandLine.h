@@ -43,4 +43,5 @@ int katalogCommand(const QStringList &arguments);
 int modelCommand(const QStringList &arguments);
 int raporCommand(const QStringList &arguments);
 int sorguCommand(const QStringList &arguments);
+int uretimCommand(const QStringList &arguments);
 int demoCommand(const QStringList &arguments);

@@ -65,6 +65,10 @@ private Q_SLOTS:
         QTest::newRow("a slip without a file") << QStringList{u"fis"_s, m_database, u"1"_s};
         QTest::newRow("an order that is no number")
             << QStringList{u"fis"_s, m_database, u"bir"_s, u"--pdf"_s, u"x.pdf"_s};
+        const QStringList sheet{u"uretim"_s, m_database, u"1,3"_s, u"--pdf"_s, u"x.pdf"_s};
+        QTest::newRow("a production sheet of no days") << sheet;
+        QTest::newRow("a day that is none")
+            << sheet + QStringList{u"--bas"_s, u"1.1.2000"_s, u"--bit"_s, u"31.2.2012"_s};
         QTest::newRow("a sheet without a type")
             << QStringList{u"model"_s, m_database, u"A75"_s, u"--pdf"_s, u"x.pdf"_s};
         const QStringList pages{u"katalog"_s, m_database, u"Bahar"_s, u"--pdf"_s, u"x.pdf"_s};
@@ -160,6 +164,34 @@ private Q_SLOTS:
         QCOMPARE(nothing.exitCode, 1);
         QVERIFY2(nothing.error.endsWith(u"Kayıt Bulunamadi\n"_s), qPrintable(nothing.error));
         QVERIFY(!QFile::exists(pdf + u"x"_s));
+    void aProductionSheetIsWrittenOrRefused_data()
+    {
+        QTest::addColumn<QString>("orders");
+        QTest::addColumn<QString>("begin");
+        QTest::addColumn<QString>("reason"); ///< empty: it is written
+        const QString always = u"1.1.2000"_s;
+        QTest::newRow("of two orders") << u"1,3"_s << always << QString();
+        QTest::newRow("of two karats")
+            << u"1,2"_s << always << u"FARKLI AYARLARDA SIPARIS SECIMI YAPILAMAZ...\n"_s;
+        QTest::newRow("of nothing")
+            << u"1"_s << u"1.1.2012"_s << u"KAYIT BULUNAMADI...\n"_s;
+        QTest::newRow("of no order") << u"9"_s << always << u"9 nolu sipariş bulunamadı.\n"_s;
+    }
+    void aProductionSheetIsWrittenOrRefused()
+    {
+        QFETCH(QString, orders);
+        QFETCH(QString, begin);
+        QFETCH(QString, reason);
+        const QString pdf = m_folder.filePath(u"üretim.pdf"_s);
+        QFile::remove(pdf);
+        const Outcome outcome =
+            kuyum({u"uretim"_s, m_database, orders, u"--bas"_s, begin, u"--bit"_s, u"31.12.2012"_s,
+                   u"--resimli"_s, u"--pdf"_s, pdf});
+        QCOMPARE(outcome.error, reason);
+        QCOMPARE(outcome.exitCode, reason.isEmpty() ? 0 : 1);
+        QCOMPARE(QFile::exists(pdf), reason.isEmpty());
+        if (reason.isEmpty())
+            QVERIFY(!pdfWord(pdf, u"İnci-1"_s).text.isEmpty());
     }
 
     void aSelectGivesCsv()
