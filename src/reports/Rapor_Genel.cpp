@@ -7,8 +7,30 @@
 #include "UretimSekmesi.h"
 
 #include <QScreen>
+#include <QScrollArea>
+#include <QShortcut>
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int reportTab = 1;
+
+/// A tab that scrolls where the screen is too small for it.
+QScrollArea *scrollable(QWidget *tab)
+{
+    auto *area = new QScrollArea;
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidgetResizable(true);
+    area->setFocusPolicy(Qt::NoFocus);
+    area->setWidget(tab);
+    // The tab control's own ground shows through.
+    area->viewport()->setAutoFillBackground(false);
+    tab->setAutoFillBackground(false);
+    return area;
+}
+
+} // namespace
 
 Rapor_Genel::Rapor_Genel(const ScreenContext &context, QWidget *parent)
     : QDialog(parent, Qt::Window),
@@ -18,14 +40,20 @@ Rapor_Genel::Rapor_Genel(const ScreenContext &context, QWidget *parent)
       m_uretim(new UretimSekmesi(context, this))
 {
     m_ui->setupUi(this);
-    m_ui->GenelTab->addTab(m_kontrol, u"SIPARIS KONTROL"_s);
-    m_ui->GenelTab->addTab(m_uretim, u"URETIM RAPORU"_s);
+    m_ui->GenelTab->addTab(scrollable(m_kontrol), u"SIPARIS KONTROL"_s);
+    m_ui->GenelTab->addTab(scrollable(m_uretim), u"URETIM RAPORU"_s);
     constexpr QSize wanted(1500, 950);
     constexpr QSize windowFrame(10, 60);
     resize(wanted.boundedTo(screen()->availableSize() - windowFrame));
     if (context.oturum.RaporTuru == u"URETIM RAPORU")
-        m_ui->GenelTab->setCurrentWidget(m_uretim);
+        m_ui->GenelTab->setCurrentIndex(reportTab);
     connect(m_ui->GenelTab, &QTabWidget::currentChanged, this, &Rapor_Genel::showTab);
+    // The tab control takes this key only from those that have no use for it.
+    for (const auto key : {Qt::CTRL | Qt::Key_Tab, Qt::CTRL | Qt::SHIFT | Qt::Key_Tab}) {
+        const auto *other = new QShortcut(key, this);
+        connect(other, &QShortcut::activated, this,
+                [this] { m_ui->GenelTab->setCurrentIndex(1 - m_ui->GenelTab->currentIndex()); });
+    }
     connect(m_ui->cmdSon, &QPushButton::clicked, this, &Rapor_Genel::reject);
     showTab();
 }
@@ -35,7 +63,7 @@ Rapor_Genel::~Rapor_Genel() = default;
 /// What was saved on one tab is to be seen on the other.
 void Rapor_Genel::showTab()
 {
-    if (m_ui->GenelTab->currentWidget() == m_kontrol) {
+    if (m_ui->GenelTab->currentIndex() != reportTab) {
         m_kontrol->focusFirst();
         return;
     }

@@ -83,20 +83,39 @@ void TakipGrid::setDuzen(const TakipDuzeni &duzen)
     cmbTas->addItems(duzen.siparisDurumlari);
     cmbTas1->clear();
     cmbTas1->addItems(duzen.uretimDurumlari);
+    spreadColumns();
 }
 
-/// The columns' own widths; the note gets what room is left over.
+/// What a column needs: its own width, and for the statuses what the longest
+/// takes, but not more than half as much again.
+int TakipGrid::neededWidth(int column) const
+{
+    const int own = qRound(widths[column].pixels(logicalDpiX()));
+    QStringList texts;
+    if (column == TakipModel::SipDur)
+        texts = m_duzen.siparisDurumlari;
+    else if (column == TakipModel::UrtDur)
+        texts = m_duzen.uretimDurumlari;
+    int longest = 0;
+    for (const QString &text : texts)
+        longest = std::max(longest, fontMetrics().horizontalAdvance(text));
+    return qBound(own, longest + 2 * ListCellDelegate::padding + 2, own * 3 / 2);
+}
+
+/// The note takes what room the other columns leave.
 void TakipGrid::spreadColumns()
 {
+    constexpr int leastNote = 120;
     if (m_model == nullptr)
         return;
     int others = 0;
     for (int column = 0; column < TakipModel::OtoSayi; ++column) {
-        setColumnWidth(column, qRound(widths[column].pixels(logicalDpiX())));
-        others += column == TakipModel::Aciklama ? 0 : columnWidth(column);
+        if (column == TakipModel::Aciklama)
+            continue;
+        setColumnWidth(column, neededWidth(column));
+        others += columnWidth(column);
     }
-    setColumnWidth(TakipModel::Aciklama,
-                   std::max(columnWidth(TakipModel::Aciklama), viewport()->width() - others));
+    setColumnWidth(TakipModel::Aciklama, std::max(leastNote, viewport()->width() - others));
 }
 
 /// In this column's order; once more, the other way round.

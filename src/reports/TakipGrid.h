@@ -48,6 +48,7 @@ protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
+    int neededWidth(int column) const;
     void spreadColumns();
     void sortBy(int column);
     void openEditor(const QModelIndex &cell, const QString &typed = {});

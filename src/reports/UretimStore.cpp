@@ -1,8 +1,10 @@
 #include "UretimStore.h"
 
 #include "Numbers.h"
+#include "OrderShares.h"
 #include "Oturum.h"
 #include "SqlText.h"
+#include "TurkishText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -62,6 +64,28 @@ ReportTable UretimStore::adetler(qint32 Sipnum, const UretimFiltre &filtre) cons
             ReportRow{{Kayit.text(u"Sipmodel"), Kayit.number(u"Topadet"), Kayit.text(u"Kisaad")}});
     }
     return table;
+}
+
+ReportTable UretimStore::adetSatirlari(qint32 Sipnum, const UretimFiltre &filtre,
+                                       const QString &model, const QString &KisaAD) const
+{
+    Recordset Kayit = m_oturum->sorgula(
+        u"Select SipTrh, Firadi, Sipmodel, Kisaad, Siprenk, Sipadet "
+        "FROM ((SiparisD INNER JOIN UrunTipi ON SiparisD.SipUruntip = UrunTipi.TipID) "
+        "INNER JOIN SiparisB ON SiparisD.SipnumD = SiparisB.Sipnum) "
+        "INNER JOIN Firma ON SiparisB.SipFirkod = Firma.Firkod "
+        "Where SipnumD = "_s +
+        sqlNumber(Sipnum) + u' ' + condition(filtre) + u"Order by SipSatir, Dotosayi;"_s);
+    QList<OrderShare> shares;
+    while (Kayit.next()) {
+        if (!sameText(Kayit.text(u"Sipmodel"), model) || !sameText(Kayit.text(u"Kisaad"), KisaAD))
+            continue;
+        const double adet = Kayit.number(u"Sipadet");
+        shares.append({Kayit.date(u"SipTrh"), Sipnum, Kayit.text(u"Firadi"),
+                       Kayit.text(u"Sipmodel"), Kayit.text(u"Kisaad"), Kayit.text(u"Siprenk"), adet,
+                       1, adet});
+    }
+    return orderSharesTable(u"%1 %2"_s.arg(model, KisaAD), shares, {});
 }
 
 QList<UretimSatiri> UretimStore::satirlar(const QList<qint32> &siparisler,

@@ -20,6 +20,9 @@ public:
 
     /// The pieces of an order by model and product type.
     ReportTable adetler(qint32 Sipnum, const UretimFiltre &filtre) const;
+    /// The order lines behind such a figure, named by its model and type.
+    ReportTable adetSatirlari(qint32 Sipnum, const UretimFiltre &filtre, const QString &model,
+                              const QString &KisaAD) const;
     /// What is to be made of these orders, order after order.
     QList<UretimSatiri> satirlar(const QList<qint32> &siparisler, const UretimFiltre &filtre) const;
     /// Empty for an order whose customer is not defined.

@@ -365,6 +365,10 @@ void RaporGenelTest::showsWhatIsMadeOfTheCurrentOrder()
     s.key(Qt::Key_Down);
     s.key(Qt::Key_Down); // HAZIR
     QCOMPARE(s.figures(u"Yedek0"_s), QStringList{u"A75 3 YZK"_s});
+    s.key(Qt::Key_Tab, Qt::ControlModifier);
+    QVERIFY(s.control(u"Sipnum"_s)->hasFocus());
+    s.key(Qt::Key_Tab, Qt::ControlModifier);
+    QVERIFY(s.list()->hasFocus());
     s.control<QDateEdit>(u"Trh01"_s)->setDate(QDate(2012, 3, 4));
     QCOMPARE(s.figures(u"Yedek0"_s), QStringList());
     QCOMPARE(s.figures(u"Taslar"_s), QStringList());

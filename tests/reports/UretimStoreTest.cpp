@@ -159,9 +159,14 @@ void UretimStoreTest::addsUpWhatEveryFilterLeaves()
         }
         Sums shown;
         const ReportTable table = store.adetler(1, filter);
-        for (const ReportRow &row : table.rows)
-            shown[key({row.values[0].toString(), row.values[2].toString()})] +=
-                row.values[1].toDouble();
+        for (const ReportRow &row : table.rows) {
+            const QString model = row.values[0].toString();
+            const QString name = row.values[2].toString();
+            shown[key({model, name})] += row.values[1].toDouble();
+            // The lines behind the figure sum to it.
+            const ReportTable behind = store.adetSatirlari(1, filter, model, name);
+            QCOMPARE(behind.rows.last().values.last(), row.values[1]);
+        }
         QCOMPARE(shown, byModel);
         QCOMPARE(std::size_t(table.rows.size()), byModel.size());
         Sums printed;
