@@ -110,7 +110,7 @@ MenuScreens menuTable(ScreenServices &services)
         {9, screen<Tanim_Renk>(services)},
         {10, screen<Tanim_Katalog>(services)},
         {11, reportScreen<Rapor_Siparis>(services)},
-        {12, screen<Rapor_Genel>(services)},
-        {13, screen<Rapor_Genel>(services)},
+        {12, reportScreen<Rapor_Genel>(services)},
+        {13, reportScreen<Rapor_Genel>(services)},
     };
 }

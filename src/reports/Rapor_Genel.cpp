@@ -32,7 +32,7 @@ QScrollArea *scrollable(QWidget *tab)
 
 } // namespace
 
-Rapor_Genel::Rapor_Genel(const ScreenContext &context, QWidget *parent)
+Rapor_Genel::Rapor_Genel(const RaporContext &context, QWidget *parent)
     : QDialog(parent, Qt::Window),
       m_context(context),
       m_ui(std::make_unique<Ui::Rapor_Genel>()),

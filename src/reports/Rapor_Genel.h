@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ScreenContext.h"
+#include "RaporContext.h"
 
 #include <memory>
 #include <QDialog>
@@ -19,7 +19,7 @@ class Rapor_Genel : public QDialog
     Q_OBJECT
 
 public:
-    explicit Rapor_Genel(const ScreenContext &context, QWidget *parent = nullptr);
+    explicit Rapor_Genel(const RaporContext &context, QWidget *parent = nullptr);
     ~Rapor_Genel() override;
 
     /// Leaves the screen, unless the user wants to keep what is not saved yet.
@@ -28,7 +28,7 @@ public:
 private:
     void showTab();
 
-    ScreenContext m_context;
+    RaporContext m_context;
     std::unique_ptr<Ui::Rapor_Genel> m_ui;
     KontrolSekmesi *m_kontrol;
     UretimSekmesi *m_uretim;

@@ -8,6 +8,7 @@
 #include "ModelPaneli.h"
 #include "Numbers.h"
 #include "Oturum.h"
+#include "Rapor_Satirlar.h"
 #include "SecimDelegate.h"
 #include "SecimModeli.h"
 #include "StoppableWork.h"
@@ -27,7 +28,7 @@ constexpr int customerColumn = 2;
 
 } // namespace
 
-UretimSekmesi::UretimSekmesi(const ScreenContext &context, QWidget *parent)
+UretimSekmesi::UretimSekmesi(const RaporContext &context, QWidget *parent)
     : QWidget(parent),
       m_context(context),
       m_store(context.oturum),
@@ -92,6 +93,8 @@ void UretimSekmesi::connectControls()
             [this] { m_orderTimer.start(0); });
     connect(m_ui->Yedek0->rows()->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this] { m_modelTimer.start(0); });
+    connect(m_ui->Yedek0, &RaporGrid::figureActivated, this,
+            [this, &messages](qsizetype row) { guarded(messages, this, [&] { showLines(row); }); });
     connect(&m_orderTimer, &QTimer::timeout, this, &UretimSekmesi::refresh);
     connect(&m_modelTimer, &QTimer::timeout, this,
             [this, &messages] { guarded(messages, this, [this] { showModel(); }); });
@@ -235,14 +238,13 @@ void UretimSekmesi::refresh()
 {
     guarded(m_context.messages, this, [this] {
         const QModelIndex current = m_ui->Rapor0->currentIndex();
-        ReportTable table = current.isValid()
-                                ? m_store.adetler(m_secim->Sipnum(current.row()), filtre())
-                                : m_store.adetler(0, filtre());
-        const bool any = table.hasLines();
-        m_ui->Yedek0->setTable(table);
-        m_ui->siparisBasligi->setText(current.isValid() ? table.title : QString());
-        if (any)
-            m_ui->Yedek0->rows()->setCurrentIndex(m_ui->Yedek0->rows()->model()->index(0, 0));
+        m_Sipnum = current.isValid() ? m_secim->Sipnum(current.row()) : 0;
+        m_adetler = m_store.adetler(m_Sipnum, filtre());
+        QTableView *rows = m_ui->Yedek0->rows();
+        m_ui->Yedek0->setTable(m_adetler);
+        m_ui->siparisBasligi->setText(m_Sipnum != 0 ? m_adetler.title : QString());
+        if (m_adetler.hasLines())
+            rows->setCurrentIndex(rows->model()->index(0, 0));
         m_modelTimer.start(0);
     });
 }
@@ -252,6 +254,14 @@ void UretimSekmesi::showModel()
     const QModelIndex current = m_ui->Yedek0->rows()->currentIndex();
     m_ui->modelPaneli->goster(current.isValid() ? current.siblingAtColumn(0).data().toString()
                                                 : QString());
+}
+
+void UretimSekmesi::showLines(qsizetype row)
+{
+    const QVariantList &values = m_adetler.rows[row].values;
+    showOrderLines(
+        m_context, this,
+        m_store.adetSatirlari(m_Sipnum, filtre(), values[0].toString(), values[2].toString()));
 }
 
 // The sheet

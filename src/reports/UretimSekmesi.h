@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ScreenContext.h"
+#include "RaporContext.h"
 #include "UretimListesi.h"
 #include "UretimStore.h"
 
@@ -22,7 +22,7 @@ class UretimSekmesi : public QWidget
     Q_OBJECT
 
 public:
-    explicit UretimSekmesi(const ScreenContext &context, QWidget *parent = nullptr);
+    explicit UretimSekmesi(const RaporContext &context, QWidget *parent = nullptr);
     ~UretimSekmesi() override;
 
     /// Reads the current order's lines anew.
@@ -45,14 +45,17 @@ private:
     void showSelection();
     UretimFiltre filtre() const;
     void showModel();
+    void showLines(qsizetype row);
     void print();
     void showSheet();
 
-    ScreenContext m_context;
+    RaporContext m_context;
     UretimStore m_store;
     std::unique_ptr<Ui::UretimSekmesi> m_ui;
     LookupModel *m_siparisler;
     SecimModeli *m_secim;
-    QTimer m_orderTimer; ///< a held arrow key passes orders without reading each
+    qint32 m_Sipnum = 0;   ///< the order whose lines are shown; 0: none
+    ReportTable m_adetler; ///< its pieces, as Yedek0 shows them
+    QTimer m_orderTimer;   ///< a held arrow key passes orders without reading each
     QTimer m_modelTimer;
 };

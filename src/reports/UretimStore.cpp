@@ -70,7 +70,7 @@ ReportTable UretimStore::adetSatirlari(qint32 Sipnum, const UretimFiltre &filtre
                                        const QString &model, const QString &KisaAD) const
 {
     Recordset Kayit = m_oturum->sorgula(
-        u"Select SipTrh, Firadi, Sipmodel, Kisaad, Siprenk, Sipadet "
+        u"Select SipTrh, Firadi, Sipmodel, UrunTipi.KisaAD as Tip, Siprenk, Sipadet "
         "FROM ((SiparisD INNER JOIN UrunTipi ON SiparisD.SipUruntip = UrunTipi.TipID) "
         "INNER JOIN SiparisB ON SiparisD.SipnumD = SiparisB.Sipnum) "
         "INNER JOIN Firma ON SiparisB.SipFirkod = Firma.Firkod "
@@ -78,12 +78,12 @@ ReportTable UretimStore::adetSatirlari(qint32 Sipnum, const UretimFiltre &filtre
         sqlNumber(Sipnum) + u' ' + condition(filtre) + u"Order by SipSatir, Dotosayi;"_s);
     QList<OrderShare> shares;
     while (Kayit.next()) {
-        if (!sameText(Kayit.text(u"Sipmodel"), model) || !sameText(Kayit.text(u"Kisaad"), KisaAD))
+        if (!sameText(Kayit.text(u"Sipmodel"), model) || !sameText(Kayit.text(u"Tip"), KisaAD))
             continue;
         const double adet = Kayit.number(u"Sipadet");
         shares.append({Kayit.date(u"SipTrh"), Sipnum, Kayit.text(u"Firadi"),
-                       Kayit.text(u"Sipmodel"), Kayit.text(u"Kisaad"), Kayit.text(u"Siprenk"), adet,
-                       1, adet});
+                       Kayit.text(u"Sipmodel"), Kayit.text(u"Tip"), Kayit.text(u"Siprenk"), adet, 1,
+                       adet});
     }
     return orderSharesTable(u"%1 %2"_s.arg(model, KisaAD), shares, {});
 }

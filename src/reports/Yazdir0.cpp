@@ -19,14 +19,14 @@ constexpr Twips headCharWidth = Twips::fromPoints(headPoints * 0.6);
 constexpr Twips headAdvance = 280_tw;
 
 constexpr Twips modelWidth = 2500_tw;
-constexpr Twips modelHeight = 1900_tw;
+constexpr Twips modelHeight = 1750_tw; ///< four rows with a line of molds fill a page
 constexpr Twips besidePicture = left + modelWidth + 150_tw;
 
 // Molds stand below the model, so many side by side, their codes below them.
 constexpr int moldsPerLine = 6;
 constexpr Twips moldAdvance = Twips((right - left).count() / moldsPerLine);
 constexpr Twips moldWidth = 1600_tw;
-constexpr Twips moldHeight = 1200_tw;
+constexpr Twips moldHeight = 1050_tw;
 constexpr double moldPoints = 8;
 constexpr Twips moldCharWidth = Twips::fromPoints(moldPoints * 0.6);
 constexpr Twips moldLine = 190_tw;

@@ -2,12 +2,14 @@
 #include "DateBox.h"
 #include "Dates.h"
 #include "DocumentViewer.h"
+#include "ExcelAktar.h"
 #include "Keyboard.h"
 #include "OrderFixture.h"
 #include "PrintDocument.h"
 #include "Rapor_Genel.h"
 #include "RaporGrid.h"
 #include "ScriptedMessages.h"
+#include "SpreadsheetApplication.h"
 #include "SqliteEngine.h"
 #include "TakipModel.h"
 #include "TestRegistry.h"
@@ -26,6 +28,13 @@ public:
     QList<PrintDocument> documents;
 };
 
+class NoSheets : public SpreadsheetApplication
+{
+public:
+    bool isInstalled() const override { return false; }
+    bool open(const QString &) override { return false; }
+};
+
 const QString unsaved = u"DEĞİŞİKLİKLER KAYIT EDİLMEDİ, VAZGEÇİLSİN Mİ ?"_s;
 const QString saveQuestion = u"DEGİSİKLİKLER KAYIT EDİLECEK ?"_s;
 
@@ -42,14 +51,15 @@ struct Screen : OrderFixture, Keyboard
     void open()
     {
         screen = std::make_unique<Rapor_Genel>(
-            ScreenContext{oturum, messages,
+            RaporContext{{oturum, messages,
                           [this](QWidget *, const LookupRequest &request) {
                               asked.append(request.ListeTuru);
                               LookupAnswer answer;
                               answer.SecilenNo = chosen;
                               return answer;
                           },
-                          viewer});
+                          viewer},
+                         excel});
         screen->show();
         QVERIFY(QTest::qWaitForWindowActive(screen.get()));
         QCoreApplication::processEvents();
@@ -115,6 +125,8 @@ struct Screen : OrderFixture, Keyboard
 
     ScriptedMessages messages;
     KeptDocuments viewer;
+    NoSheets sheets;
+    ExcelAktar excel{sheets, messages};
     QStringList asked;
     qint32 chosen = 0; ///< what the list answers
     std::unique_ptr<Rapor_Genel> screen;
@@ -361,6 +373,20 @@ void RaporGenelTest::showsWhatIsMadeOfTheCurrentOrder()
     QCOMPARE(s.figures(u"Yedek0"_s),
              QStringList({u"A75 1 KLY"_s, u"A75 3 YZK"_s, u"İnci-1 2 KPE"_s}));
     QCOMPARE(s.figures(u"Taslar"_s), QStringList{u"ZRK 2 4.00"_s});
+    // Enter on a figure shows the lines behind it.
+    QTableView *pieces = s.control<RaporGrid>(u"Yedek0"_s)->rows();
+    pieces->setFocus();
+    pieces->setCurrentIndex(pieces->model()->index(1, 1));
+    ReportTable behind;
+    QTimer::singleShot(0, [&] {
+        behind = QApplication::activeModalWidget()->findChild<RaporGrid *>()->table();
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Escape);
+    });
+    s.key(Qt::Key_Return);
+    s.screen->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(s.screen.get()));
+    QCOMPARE(behind.title, u"A75 YZK"_s);
+    QCOMPARE(behind.rows.last().values.last().toDouble(), 3.0);
     s.control<QComboBox>(u"Sipdur0"_s)->setFocus();
     s.key(Qt::Key_Down);
     s.key(Qt::Key_Down); // HAZIR
