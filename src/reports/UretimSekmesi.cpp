@@ -23,7 +23,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr Twips widths[SecimModeli::shownColumns] = {1400_tw, 900_tw, 2200_tw, 900_tw};
+constexpr Twips widths[SecimModeli::shownColumns] = {1400_tw, 1200_tw, 2200_tw, 900_tw};
 constexpr int customerColumn = 2;
 
 } // namespace
