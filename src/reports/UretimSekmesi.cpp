@@ -9,9 +9,9 @@
 #include "Numbers.h"
 #include "Oturum.h"
 #include "Rapor_Satirlar.h"
+#include "ReadingProgress.h"
 #include "SecimDelegate.h"
 #include "SecimModeli.h"
-#include "StoppableWork.h"
 #include "Twips.h"
 #include "ui_UretimSekmesi.h"
 
@@ -288,11 +288,10 @@ void UretimSekmesi::showSheet()
     const auto yazdirma =
         m_ui->CmbYazdir0->currentIndex() == 1 ? UretimYazdirma::Resimli : UretimYazdirma::Yazili;
     const UretimListesi liste = uretimListesi(m_context.oturum, m_secim->secim(), filtre());
-    std::optional<PrintDocument> rapor;
-    {
-        StoppableWork work(this, u"URETIM RAPORU"_s, u"Resimler okunuyor..."_s);
-        rapor = uretimRaporu(m_context.oturum, liste, yazdirma, work.progress());
-    }
+    const std::optional<PrintDocument> rapor =
+        makeWithProgress(this, u"URETIM RAPORU"_s, [&](const PictureProgress &progress) {
+            return uretimRaporu(m_context.oturum, liste, yazdirma, progress);
+        });
     if (rapor)
         m_context.viewer.show(this, *rapor);
 }
