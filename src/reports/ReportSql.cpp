@@ -81,7 +81,7 @@ QString moldReportSql(const ReportPeriod &period)
            "and SipUruntip = M_Uruntip  and "_s +
            inPeriod(period) +
            u" and sipmodel=model and kalipID = m_kod "
-           "group by kalipkodu,KalipAck,ayar order by kalipkodu,KalipAck,ayar "_s;
+           "group by kalipkodu,KalipAck,ayar order by kalipkodu,ayar "_s;
 }
 
 QString modelReportSql(const ModelReportRequest &request, const QList<SplitColumn> &columns)
