@@ -13,6 +13,7 @@
 #include "ReportPictures.h"
 #include "ui_Rapor_Siparis.h"
 
+#include <algorithm>
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QProgressDialog>
@@ -42,9 +43,9 @@ std::optional<qint32> chosenNumber(const QComboBox &box)
 /// What the grid shows, whatever is chosen for the next report meanwhile.
 QString summary(const OrderReport &report)
 {
-    QStringList parts{formatDate(report.period().bas) + u" - "_s + formatDate(report.period().bit)};
+    QStringList parts{u"%1 satır"_s.arg(report.table().rows.size() - 1),
+                      formatDate(report.period().bas) + u" - "_s + formatDate(report.period().bit)};
     parts += report.header().sliced(1);
-    parts += u"%1 satır"_s.arg(report.table().rows.size() - 1);
     return parts.join(u"  ·  "_s);
 }
 
@@ -57,6 +58,7 @@ public:
     {
         m_dialog.setWindowTitle(parent->windowTitle());
         m_dialog.setWindowModality(Qt::WindowModal);
+        m_dialog.setMinimumWidth(320); // room for its title
         m_dialog.setMinimumDuration(400);
     }
 
@@ -81,10 +83,11 @@ Rapor_Siparis::Rapor_Siparis(const RaporContext &context, QWidget *parent)
     fillFilters();
     for (int place = 0; place < int(m_sekmeler.size()); ++place)
         connectTab(place);
+    setUpSize();
     connectChart();
+    connectFilters();
     connect(m_ui->RaporTab, &QTabWidget::currentChanged, this, &Rapor_Siparis::enterTab);
     connect(m_ui->cmdSon, &QPushButton::clicked, this, &QDialog::reject);
-    setUpSize();
     enterTab(tasSekmesi);
 }
 
@@ -109,6 +112,7 @@ void Rapor_Siparis::fillFilters()
     m_ui->ComboBox4->addItem(QString());
     m_ui->ComboBox4->addItems(modelPrefixes(m_context.oturum));
     m_ui->ComboBox4->lineEdit()->setPlaceholderText(u"Tümü"_s);
+    m_ui->ComboBox4->setCompleter(nullptr); // the codes that begin with K are not those with KAŞ
     fill(*m_ui->ComboBox5, productTypeChoices(m_context.oturum));
 }
 
@@ -120,6 +124,28 @@ void Rapor_Siparis::setUpSize()
     resize(wanted.boundedTo(room));
     m_ui->cmdGrafik->setChecked(width() >= widthForChart);
     m_ui->bolme->setSizes({3 * width(), 2 * width()}); // as shares
+    constexpr int lowest = 460;                        // with everything on show
+    m_lowScreen = screen()->availableSize().height() < lowest;
+    if (m_lowScreen)
+        fitLowScreen();
+}
+
+void Rapor_Siparis::fitLowScreen()
+{
+    constexpr int space = 5;
+    constexpr int buttonWidth = 84;
+    setWindowState(Qt::WindowMaximized);
+    layout()->setContentsMargins(space, space, space, space);
+    for (QBoxLayout *tab : {m_ui->sekmeDuzeni0, m_ui->sekmeDuzeni1, m_ui->sekmeDuzeni2}) {
+        tab->setContentsMargins(space, space, space, space);
+        tab->setSpacing(space);
+    }
+    for (QPushButton *button : {m_ui->cmdYazdir0, m_ui->cmdYazdir1, m_ui->cmdYazdir2,
+                                m_ui->cmdGrafik, m_ui->cmdSon, m_ui->Command10, m_ui->cmdSuzgec}) {
+        button->setMinimumWidth(0);
+        button->setMaximumWidth(buttonWidth);
+    }
+    m_ui->cmdGrafik->setChecked(false);
 }
 
 void Rapor_Siparis::connectTab(int place)
@@ -145,7 +171,11 @@ void Rapor_Siparis::connectTab(int place)
 
 void Rapor_Siparis::connectChart()
 {
-    const auto showChart = [this] { m_ui->grafikPaneli->setVisible(m_ui->cmdGrafik->isChecked()); };
+    const auto showChart = [this] {
+        const bool chart = m_ui->cmdGrafik->isChecked();
+        m_ui->grafikPaneli->setVisible(chart);
+        m_ui->rapor2->setVisible(!chart || !m_lowScreen);
+    };
     connect(m_ui->cmdGrafik, &QPushButton::toggled, this, showChart);
     showChart();
     for (QPushButton *button : {m_ui->cmdGrafikKaydet, m_ui->cmdGrafikYazdir})
@@ -154,6 +184,28 @@ void Rapor_Siparis::connectChart()
             [this] { guarded(m_context.messages, this, [this] { saveChart(); }); });
     connect(m_ui->cmdGrafikYazdir, &QPushButton::clicked, this,
             [this] { guarded(m_context.messages, this, [this] { printChart(); }); });
+}
+
+/// Where they are hidden, their button tells how many narrow the report.
+void Rapor_Siparis::connectFilters()
+{
+    m_ui->cmdSuzgec->setVisible(m_lowScreen);
+    m_ui->suzgecPaneli->setVisible(!m_lowScreen);
+    connect(m_ui->cmdSuzgec, &QPushButton::toggled, this, [this](bool shown) {
+        m_ui->suzgecPaneli->setVisible(shown);
+        if (shown)
+            m_ui->ComboBox2->setFocus(Qt::OtherFocusReason);
+    });
+    const QList<QComboBox *> filters{m_ui->ComboBox2, m_ui->ComboBox3, m_ui->ComboBox4,
+                                     m_ui->ComboBox5};
+    const auto count = [this, filters] {
+        const auto set = std::ranges::count_if(filters, [](const QComboBox *box) {
+            return box->isEditable() ? !box->currentText().isEmpty() : box->currentIndex() > 0;
+        });
+        m_ui->cmdSuzgec->setText(set > 0 ? u"S&üzgeç: %1"_s.arg(set) : u"S&üzgeç"_s);
+    };
+    for (const QComboBox *filter : filters)
+        connect(filter, &QComboBox::currentTextChanged, this, count);
 }
 
 // Keys
@@ -259,6 +311,7 @@ void Rapor_Siparis::showReport(Sekme &sekme, std::unique_ptr<OrderReport> report
         m_ui->grafik->setTable(table);
         m_ui->cmdGrafikKaydet->setEnabled(hasLines);
         m_ui->cmdGrafikYazdir->setEnabled(hasLines);
+        m_ui->cmdSuzgec->setChecked(m_ui->cmdSuzgec->isChecked() && !hasLines);
     }
     if (hasLines)
         sekme.grid->setFocus(Qt::OtherFocusReason);

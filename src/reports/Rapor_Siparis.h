@@ -48,8 +48,10 @@ private:
     void gatherTabs();
     void connectTab(int place);
     void connectChart();
+    void connectFilters();
     void fillFilters();
     void setUpSize();
+    void fitLowScreen();
     void enterTab(int place);
     void enterPressed();
 
@@ -66,4 +68,5 @@ private:
     RaporContext m_context;
     std::unique_ptr<Ui::Rapor_Siparis> m_ui;
     std::array<Sekme, 3> m_sekmeler;
+    bool m_lowScreen = false; ///< filters and chart take turns with the rows
 };
