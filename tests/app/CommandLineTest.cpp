@@ -164,6 +164,8 @@ private Q_SLOTS:
         QCOMPARE(nothing.exitCode, 1);
         QVERIFY2(nothing.error.endsWith(u"Kayıt Bulunamadi\n"_s), qPrintable(nothing.error));
         QVERIFY(!QFile::exists(pdf + u"x"_s));
+    }
+
     void aProductionSheetIsWrittenOrRefused_data()
     {
         QTest::addColumn<QString>("orders");
