@@ -106,14 +106,19 @@ void FrmWebcam::setBackColour(const QString &backcolor)
 bool FrmWebcam::Baglan()
 {
     m_source = m_services.openSource(m_services.settings.value(key(driverKey), u"0"_s).toInt());
-    if (m_source == nullptr || !m_source->start()) {
+    if (m_source == nullptr) {
         lose();
         return false;
     }
+    // A device that another program holds can say so while it is being started.
     connect(m_source.get(), &FrameSource::frameCame, this, &FrmWebcam::showFrame);
     // Queued: closing lets the source go, and it is still at work when it says so.
     connect(m_source.get(), &FrameSource::lost, this, &FrmWebcam::lose, Qt::QueuedConnection);
-    // A device that another program holds can stay silent.
+    if (!m_source->start()) {
+        lose();
+        return false;
+    }
+    // Or it stays silent.
     m_firstFrame.start(mostMillisecondsToFirstFrame);
     return true;
 }
@@ -126,6 +131,9 @@ void FrmWebcam::lose()
     m_firstFrame.stop();
     m_services.messages.say(isVisible() ? this : parentWidget(), u"WebCam Bulunamadi...."_s,
                             MessageIcon::Critical, u"Webcam"_s);
+    // A dialog over the screen would keep the caller waiting for its answer.
+    for (auto *dialog : findChildren<QDialog *>())
+        dialog->reject();
     reject();
 }
 

@@ -2,6 +2,7 @@
 
 #include "PictureFrames.h"
 
+#include <algorithm>
 #include <QCamera>
 #include <QCameraDevice>
 #include <QCoreApplication>
@@ -57,7 +58,10 @@ public:
         connect(&m_sink, &QVideoSink::videoFrameChanged, this, &CameraFrames::take);
         connect(&m_camera, &QCamera::errorOccurred, this, [this] { Q_EMIT lost(); });
         connect(&m_devices, &QMediaDevices::videoInputsChanged, this, [this] {
-            if (!QMediaDevices::videoInputs().contains(m_device))
+            const auto isOurs = [this](const QCameraDevice &device) {
+                return device.id() == m_device.id();
+            };
+            if (std::ranges::none_of(QMediaDevices::videoInputs(), isOurs))
                 Q_EMIT lost();
         });
     }

@@ -67,6 +67,17 @@ struct Pictured : DefinitionFixture<Screen>
     FrameSourceOpener openSource = [this](int) { return std::make_unique<PictureFrames>(picture); };
 };
 
+/// Held by another program: it fails while it is started.
+struct HeldCamera : PictureFrames
+{
+    using PictureFrames::PictureFrames;
+    bool start() override
+    {
+        Q_EMIT lost();
+        return true;
+    }
+};
+
 ScriptedMessages::Expected overwrite(MessageAnswer answer)
 {
     return {.text = u"Resim Mevcut. Uzerine Yazılsınmı?"_s,
@@ -151,12 +162,26 @@ private Q_SLOTS:
         Pictured<Tanim_Kalip> on;
         on.enter({u"K-1"_s});
         on.messages.expect(noCamera);
-        on.shoot([&](FrmWebcam &) {
-            QFile::remove(on.picture);
-            QTRY_COMPARE(on.messages.remaining(), 0);
+        on.shoot([&](FrmWebcam &screen) {
+            // The dialog of the formats goes with the camera.
+            QTimer::singleShot(0, &screen, [&on] { QFile::remove(on.picture); });
+            QTest::mouseClick(screen.findChild<QPushButton *>(u"Ayarla_Cmd"_s), Qt::LeftButton);
+            QCOMPARE(on.messages.remaining(), 0);
         });
         on.messages.verify();
         QVERIFY(!on.control<PictureEntry>(u"KalipResim"_s)->holdsPicture());
+    }
+
+    void aHeldCameraSaysSoAtOnce()
+    {
+        const QTemporaryDir dir;
+        QSettings settings(dir.filePath(u"ayar.ini"_s), QSettings::IniFormat);
+        ScriptedMessages messages;
+        messages.expect(noCamera);
+        FrmWebcam screen(
+            {messages, settings, [](int) { return std::make_unique<HeldCamera>(QString()); }});
+        QVERIFY(screen.Baglan());
+        QTRY_COMPARE(messages.remaining(), 0);
     }
 
     void savesTheFrameAndChangesTheFormat()
