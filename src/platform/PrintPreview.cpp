@@ -4,9 +4,12 @@
 #include "PrinterOffset.h"
 #include "Printers.h"
 
+#include <cmath>
+#include <QBuffer>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QHBoxLayout>
+#include <QImageReader>
 #include <QLabel>
 #include <QPainter>
 #include <QPrinter>
@@ -39,6 +42,46 @@ QString fileName(QString title)
             character = u'-';
     }
     return title + u".pdf"_s;
+}
+
+/// The preview holds the photographs of all pages as images. More of them than
+/// these pixels (120 MB) are shown coarser than they are printed.
+constexpr double mostPreviewPixels = 30e6;
+
+QImage readPhoto(const PagePhoto &photo, double scale)
+{
+    QByteArray jpeg = photo.jpeg;
+    QBuffer buffer(&jpeg);
+    QImageReader reader(&buffer, "JPEG");
+    reader.setScaledSize((QSizeF(reader.size()) * scale).toSize().expandedTo({1, 1}));
+    return reader.read();
+}
+
+/// How much coarser the photographs have to be; 1 where they need not.
+double previewScale(const PrintDocument &document)
+{
+    double pixels = 0;
+    for (const PrintPage &page : document.pages()) {
+        for (const PageItem &item : page.items) {
+            const auto *photo = std::get_if<PagePhoto>(&item);
+            if (photo == nullptr)
+                continue;
+            QByteArray jpeg = photo->jpeg;
+            QBuffer buffer(&jpeg);
+            const QSize size = QImageReader(&buffer, "JPEG").size();
+            pixels += double(size.width()) * size.height();
+        }
+    }
+    return pixels <= mostPreviewPixels ? 1 : std::sqrt(mostPreviewPixels / pixels);
+}
+
+PrintPage coarser(PrintPage page, double scale)
+{
+    for (PageItem &item : page.items) {
+        if (const auto *photo = std::get_if<PagePhoto>(&item))
+            item = PagePicture{photo->at, photo->width, photo->height, readPhoto(*photo, scale)};
+    }
+    return page;
 }
 
 } // namespace
@@ -186,11 +229,13 @@ void PrintPreview::fillPrinters()
 
 void PrintPreview::paint(QPrinter *printer) const
 {
+    const double scale = previewScale(m_document);
     QPainter painter(printer);
     for (qsizetype i = 0; i < m_document.pages().size(); ++i) {
         if (i > 0)
             printer->newPage();
-        paintPage(painter, m_document.pages()[i], printer->resolution());
+        const PrintPage &page = m_document.pages()[i];
+        paintPage(painter, scale < 1 ? coarser(page, scale) : page, printer->resolution());
     }
 }
 
