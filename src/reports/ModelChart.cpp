@@ -133,7 +133,7 @@ QChart *makeChart(const ReportTable &table, const ChartLook &look)
     chart->layout()->setContentsMargins(0, 0, 0, 0);
     chart->setTitleFont(look.font);
     chart->setTitleBrush(palette.text());
-    chart->setTitle(look.titled ? table.title : QString());
+    chart->setTitle(look.titled ? table.title.toHtmlEscaped() : QString());
     chart->legend()->setVisible(table.columns.size() > firstPart + 2);
     chart->legend()->setAlignment(Qt::AlignBottom);
     chart->legend()->setFont(look.font);

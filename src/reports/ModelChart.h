@@ -20,7 +20,7 @@ public:
     /// How many models the bars stand for at most.
     static constexpr int mostModels = 20;
 
-    /// The table is a ModelReport's.
+    /// The table is a ModelReport's. Its title stands above the chart on paper.
     void setTable(const ReportTable &table);
     /// As it stands on paper: dark on white, in so many dots.
     QImage picture(const QSize &dots) const;

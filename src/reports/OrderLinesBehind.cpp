@@ -27,7 +27,7 @@ QHash<qint64, QString> names(Database &db, const QString &sql)
 [[noreturn]] void refuse()
 {
     throw std::runtime_error(
-        u"Bu rakam %1 satırdan fazla siparişten oluşuyor; tarih aralığını daraltın."_s
+        u"Bu rakamın arkasında %1'den fazla sipariş satırı var; tarih aralığını daraltın."_s
             .arg(mostLines)
             .toStdString());
 }
@@ -39,6 +39,15 @@ OrderLinesBehind::OrderLinesBehind(Database &db, int decimals)
       m_firmalar(names(db, u"Select Firkod, FirAdi From Firma"_s)),
       m_tipler(names(db, u"Select TipID, KisaAD From UrunTipi"_s))
 {
+}
+
+void OrderLinesBehind::count(const Contribution &contribution)
+{
+    if (contribution.line.place == m_counted || !contribution.pieces())
+        return;
+    m_counted = contribution.line.place;
+    if (++m_count > mostLines)
+        refuse();
 }
 
 void OrderLinesBehind::add(const Contribution &contribution, double unit)
@@ -54,8 +63,6 @@ void OrderLinesBehind::add(const Contribution &contribution, double unit)
     figure.shown = shown;
 
     if (contribution.line.place != m_walked) {
-        if (m_shares.size() == mostLines)
-            refuse();
         m_walked = contribution.line.place;
         m_shares.append(newShare(contribution.line));
     }

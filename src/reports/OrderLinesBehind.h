@@ -13,9 +13,11 @@ class OrderLinesBehind
 public:
     OrderLinesBehind(Database &db, int decimals);
 
+    /// Counts a line that will be added. Throws when there are more than a person
+    /// looks through, which is told before the slow work of adding them.
+    void count(const Contribution &contribution);
     /// Adds what a line contributes, each piece for so many units. A line may
-    /// contribute several times in a row. Throws when there are more lines than
-    /// a person looks through.
+    /// contribute several times in a row.
     void add(const Contribution &contribution, double unit);
     ReportTable table(const QString &title, const QString &picture) const;
 
@@ -33,5 +35,7 @@ private:
     QHash<qint64, QString> m_tipler;
     QHash<quint64, Running> m_figures; ///< by item and group
     QList<OrderShare> m_shares;
+    int m_counted = -1; ///< the line that was counted last
+    qsizetype m_count = 0;
     int m_walked = -1; ///< the line that the last share is of
 };

@@ -60,13 +60,20 @@ std::optional<ReportTable> OrderReport::linesBehind(qsizetype row, qsizetype col
     if (m_table.rows[row].kind == ReportRowKind::Line)
         item = m_items[row];
     OrderLinesBehind behind(*m_oturum.Veritabani, decimals(wanted));
-    const auto add = [&](const Contribution &contribution) {
-        if (contribution.group < 0 || contribution.item != item.value_or(contribution.item) ||
-            contribution.group != wanted.group.value_or(contribution.group))
-            return;
-        behind.add(contribution, wanted.grams ? gramsPerPiece(contribution.item).value_or(0) : 1.0);
+    const auto isBehind = [&](const Contribution &contribution) {
+        return contribution.group >= 0 && contribution.item == item.value_or(contribution.item) &&
+               contribution.group == wanted.group.value_or(contribution.group);
     };
-    if (!walk(add, progress))
+    const auto count = [&](const Contribution &contribution) {
+        if (isBehind(contribution))
+            behind.count(contribution);
+    };
+    const auto add = [&](const Contribution &contribution) {
+        if (isBehind(contribution))
+            behind.add(contribution,
+                       wanted.grams ? gramsPerPiece(contribution.item).value_or(0) : 1.0);
+    };
+    if (!walk(count, progress) || !walk(add, progress))
         return std::nullopt;
     const QString heading = m_table.rows[row].values.first().toString();
     const QString title = heading + u" / "_s + m_table.columns[column].heading;

@@ -308,7 +308,10 @@ void Rapor_Siparis::showReport(Sekme &sekme, std::unique_ptr<OrderReport> report
     sekme.cmdYazdir->setEnabled(hasLines);
     sekme.excel->setEnabled(hasLines);
     if (&sekme == &m_sekmeler[modelSekmesi]) {
-        m_ui->grafik->setTable(table);
+        ReportTable charted = table;
+        if (sekme.report)
+            charted.title = sekme.report->header().join(u"  ·  "_s);
+        m_ui->grafik->setTable(charted);
         m_ui->cmdGrafikKaydet->setEnabled(hasLines);
         m_ui->cmdGrafikYazdir->setEnabled(hasLines);
         m_ui->cmdSuzgec->setChecked(m_ui->cmdSuzgec->isChecked() && !hasLines);
@@ -341,10 +344,12 @@ void Rapor_Siparis::print(const Sekme &sekme)
 
 void Rapor_Siparis::saveChart()
 {
-    const QString path = QFileDialog::getSaveFileName(this, u"Grafiği Kaydet"_s, u"grafik.png"_s,
-                                                      u"PNG resmi (*.png)"_s);
-    if (!path.isEmpty())
-        m_ui->grafik->save(path);
+    QFileDialog dialog(this, u"Grafiği Kaydet"_s, {}, u"PNG resmi (*.png)"_s);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setDefaultSuffix(u"png"_s);
+    dialog.selectFile(u"grafik.png"_s);
+    if (dialog.exec() == QDialog::Accepted)
+        m_ui->grafik->save(dialog.selectedFiles().value(0));
 }
 
 void Rapor_Siparis::printChart()
