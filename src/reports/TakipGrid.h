@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QDate>
 #include <QPersistentModelIndex>
+#include <QStringList>
 #include <QTableView>
 
 class ChoiceBox;
