@@ -12,7 +12,10 @@
 #include <QGraphicsLayout>
 #include <QGraphicsSimpleTextItem>
 #include <QHorizontalStackedBarSeries>
+#include <QLabel>
 #include <QPainter>
+#include <QTextDocument>
+#include <QtMath>
 #include <QValueAxis>
 #include <QVBoxLayout>
 
@@ -45,15 +48,36 @@ void colorAxis(QAbstractAxis &axis, const QPalette &palette, const QFont &font)
     axis.setGridLineColor(quiet);
 }
 
+QString partName(const ReportTable &table, qsizetype column)
+{
+    const QString heading = table.columns[column].heading;
+    return heading.mid(heading.indexOf(u'(') + 1).chopped(1);
+}
+
+/// Which colour stands for what; nothing where there is but one. The chart's own
+/// legend stays on one line, and cuts the names off.
+QString legend(const ReportTable &table, const QPalette &palette)
+{
+    if (table.rows.isEmpty() || table.columns.size() <= firstPart + 2)
+        return {};
+    QStringList parts;
+    for (qsizetype column = firstPart; column + 1 < table.columns.size(); ++column) {
+        const QColor color = partColor(column - firstPart, themeColors(palette).dark);
+        const QString name = partName(table, column).toHtmlEscaped().replace(u' ', u"&nbsp;"_s);
+        parts.append(u"<span style=\"color:%1\">■</span>&nbsp;"_s.arg(color.name()) + name);
+    }
+    return u"<div align=\"center\" style=\"color:%1\">"_s.arg(
+               palette.color(QPalette::Text).name()) +
+           parts.join(u" &nbsp; "_s) + u"</div>"_s;
+}
+
 /// The longest bar stands on top: the axis begins at the bottom.
 QHorizontalStackedBarSeries *makeBars(const ReportTable &table, bool dark)
 {
     auto *series = new QHorizontalStackedBarSeries;
     series->setBarWidth(0.72);
     for (qsizetype column = firstPart; column + 1 < table.columns.size(); ++column) {
-        QString name = table.columns[column].heading;
-        name = name.mid(name.indexOf(u'(') + 1).chopped(1);
-        auto *part = new QBarSet(name);
+        auto *part = new QBarSet(partName(table, column));
         part->setColor(partColor(column - firstPart, dark));
         part->setBorderColor(Qt::transparent);
         for (qsizetype row = table.rows.size() - 1; row >= 0; --row)
@@ -134,10 +158,7 @@ QChart *makeChart(const ReportTable &table, const ChartLook &look)
     chart->setTitleFont(look.font);
     chart->setTitleBrush(palette.text());
     chart->setTitle(look.titled ? table.title.toHtmlEscaped() : QString());
-    chart->legend()->setVisible(table.columns.size() > firstPart + 2);
-    chart->legend()->setAlignment(Qt::AlignBottom);
-    chart->legend()->setFont(look.font);
-    chart->legend()->setLabelColor(palette.color(QPalette::Text));
+    chart->legend()->hide();
     if (table.rows.isEmpty())
         return chart;
     QHorizontalStackedBarSeries *series = makeBars(table, themeColors(palette).dark);
@@ -172,11 +193,15 @@ QPalette paperPalette()
 
 } // namespace
 
-ModelChart::ModelChart(QWidget *parent) : QWidget(parent), m_view(new QChartView(this))
+ModelChart::ModelChart(QWidget *parent)
+    : QWidget(parent), m_view(new QChartView(this)), m_legend(new QLabel(this))
 {
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->addWidget(m_view);
+    layout->addWidget(m_view, 1);
+    layout->addWidget(m_legend);
+    m_legend->setWordWrap(true);
+    m_legend->setTextFormat(Qt::RichText);
     m_view->setRenderHint(QPainter::Antialiasing);
     m_view->setFocusPolicy(Qt::NoFocus);
     m_view->setMinimumSize(0, 0);
@@ -201,6 +226,9 @@ void ModelChart::draw()
     const std::unique_ptr<QChart> old(m_view->chart());
     m_view->setBackgroundBrush(palette().base());
     m_view->setChart(makeChart(m_table, {palette(), small, false}));
+    m_legend->setFont(small);
+    m_legend->setText(legend(m_table, palette()));
+    m_legend->setVisible(!m_legend->text().isEmpty());
 }
 
 void ModelChart::changeEvent(QEvent *event)
@@ -213,18 +241,27 @@ void ModelChart::changeEvent(QEvent *event)
 QImage ModelChart::picture(const QSize &dots) const
 {
     constexpr int dotsPerPoint = 2;
+    const QSize size = dots / dotsPerPoint;
+    QTextDocument below;
+    below.setDefaultFont(font());
+    below.setHtml(legend(m_table, paperPalette()));
+    below.setTextWidth(size.width());
+    const int chartHeight = size.height() - qCeil(below.size().height());
     QChartView view(makeChart(m_table, {paperPalette(), font(), true}));
     view.setFrameShape(QFrame::NoFrame);
     view.setBackgroundBrush(Qt::white);
     view.setRenderHint(QPainter::Antialiasing);
-    view.resize(dots / dotsPerPoint);
+    view.resize(size.width(), chartHeight);
     view.setAttribute(Qt::WA_DontShowOnScreen);
     view.show();
     QImage image(dots, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
-    view.render(&painter, QRectF(image.rect()), view.rect());
+    painter.scale(dotsPerPoint, dotsPerPoint);
+    view.render(&painter, QRectF(view.rect()), view.rect());
+    painter.translate(0, chartHeight);
+    below.drawContents(&painter);
     return image;
 }
 

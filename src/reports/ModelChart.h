@@ -7,6 +7,7 @@
 
 class QChart;
 class QChartView;
+class QLabel;
 
 /// The first models of the model report as bars, longest on top, each in the
 /// parts that its columns split it into.
@@ -40,4 +41,5 @@ private:
 
     ReportTable m_table; ///< title, columns and the lines that are drawn
     QChartView *m_view;
+    QLabel *m_legend;
 };
