@@ -241,6 +241,26 @@ private Q_SLOTS:
         QVERIFY(!QFile::exists(pdf));
     }
 
+    void aCatalogueIsPrinted()
+    {
+        const QString pdf = m_folder.filePath(u"katalog.pdf"_s);
+        const auto print = [&](const QString &name, const QString &form) {
+            QFile::remove(pdf);
+            return kuyum({u"katalog"_s, m_database, name, u"--bicim"_s, form, u"--pdf"_s, pdf});
+        };
+        for (const auto &[form, step] : {std::pair(u"3x5"_s, 3600.0), {u"4x6"_s, 2800.0}}) {
+            const Outcome outcome = print(u"bahar"_s, form);
+            QVERIFY2(outcome.exitCode == 0, qPrintable(outcome.error));
+            const double first = pdfWord(pdf, u"A75"_s).x;
+            QVERIFY(qAbs(pdfWord(pdf, u"İnci-1"_s).x - first - step) < 30);
+        }
+        const Outcome outcome = print(u"Kış"_s, u"3x5"_s);
+        QCOMPARE(outcome.exitCode, 1);
+        QVERIFY2(outcome.error.contains(u"Kış adlı katalog bulunamadı"_s),
+                 qPrintable(outcome.error));
+        QVERIFY(!QFile::exists(pdf));
+    }
+
     void aLabelIsDrawnOfTheModelUnderItsType()
     {
         const QString png = m_folder.filePath(u"etiket.png"_s);
