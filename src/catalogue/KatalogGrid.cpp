@@ -148,10 +148,12 @@ void KatalogGrid::spreadColumns()
     const int gram = 10 * letter;
     const int id = 9 * letter;
     const int shortName = 8 * letter;
-    const int model = (width - gram - id - shortName) * 2 / 5;
+    const int room = width - gram - id - shortName;
+    // In a small window the model is what tells the rows apart.
+    const int model = std::max(room * 2 / 5, std::min(13 * letter, room * 2 / 3));
     setColumnWidth(KatalogModel::modelColumn, model);
     setColumnWidth(KatalogModel::gramColumn, gram);
     setColumnWidth(KatalogModel::idColumn, id);
     setColumnWidth(KatalogModel::kisaAdColumn, shortName);
-    setColumnWidth(KatalogModel::aciklamaColumn, width - model - gram - id - shortName);
+    setColumnWidth(KatalogModel::aciklamaColumn, room - model);
 }

@@ -276,6 +276,9 @@ void Tanim_Katalog::showModel(const KatalogSatiri &model)
     m_ui->txtGram->setText(formatNumber(model.katgram, u"##0.00"));
     showPicture();
     m_ui->txtGram->setFocus(Qt::TabFocusReason);
+    // The list has just closed: the focus comes with the window, which selects
+    // nothing, and a weight that is typed would go behind the model's own.
+    TumunuSec(*m_ui->txtGram);
 }
 
 void Tanim_Katalog::add()

@@ -97,6 +97,19 @@ private Q_SLOTS:
         QVERIFY(on.control<PictureBox>(u"Resim"_s)->path().isEmpty());
     }
 
+    void aWeightTypedAfterTheListReplacesTheModels()
+    {
+        Catalogues on;
+        on.listIsWindow = true;
+        on.enter({u"Kış"_s});
+        on.answers = {Catalogues::model(u"A75"_s, 1)};
+        on.enter({u"a"_s});
+        on.screen->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(on.screen.get()));
+        QTest::keyClick(on.screen->focusWidget(), Qt::Key_7);
+        QCOMPARE(on.text(u"txtGram"_s), u"7"_s);
+    }
+
     void takesSeveralModelsAtOnceAndACatalogueFromTheList()
     {
         Catalogues on;

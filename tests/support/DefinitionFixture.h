@@ -10,7 +10,9 @@
 #include "SqliteEngine.h"
 #include "Typing.h"
 
+#include <QDialog>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QtTest>
 
 /// Keeps what was to be shown.
@@ -53,8 +55,10 @@ struct DefinitionFixture
     void open()
     {
         const ScreenContext context{oturum, messages,
-                                    [this](QWidget *, const LookupRequest &request) {
+                                    [this](QWidget *parent, const LookupRequest &request) {
                                         asked.append(request);
+                                        if (listIsWindow)
+                                            openAndClose(parent);
                                         return answers.isEmpty() ? LookupAnswer()
                                                                  : answers.takeFirst();
                                     },
@@ -125,6 +129,15 @@ struct DefinitionFixture
         key(letter, Qt::AltModifier);
         QTRY_COMPARE(clicks.count(), 1);
     }
+    static void openAndClose(QWidget *parent)
+    {
+        QDialog list(parent);
+        QTimer::singleShot(0, &list, [&list] {
+            QVERIFY(QTest::qWaitForWindowActive(&list));
+            list.accept();
+        });
+        list.exec();
+    }
     /// Presses the delete button and answers its question.
     void remove(const QString &question, MessageAnswer defaultAnswer, MessageAnswer answer,
                 const QString &title = {})
@@ -159,6 +172,7 @@ struct DefinitionFixture
     ScriptedMessages messages;
     QList<LookupRequest> asked;
     QList<LookupAnswer> answers;
+    bool listIsWindow = false; ///< the list takes the focus from the screen for a moment
     KeptDocuments viewer;
     KeptLabels labels;
     std::unique_ptr<Screen> screen;
