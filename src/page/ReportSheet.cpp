@@ -4,13 +4,16 @@
 #include "SheetThumbnails.h"
 #include "WholeFile.h"
 
+#include <clocale>
 #include <cmath>
 #include <QDate>
+#include <QDir>
 #include <QFile>
 #include <QHash>
 #include <QRegularExpression>
 #include <QStorageInfo>
 #include <QTemporaryDir>
+#include <string>
 #include <utility>
 #include <xlsxwriter.h>
 
@@ -23,6 +26,8 @@ constexpr double widestColumn = 80; ///< in characters, as all widths of a sheet
 constexpr double pictureRowPoints = 63;
 constexpr double textRowPoints = 18;
 constexpr qint64 leastRoom = 4 << 20;
+constexpr qint64 cellBytes = 96; ///< around a cell's text, in the library's files
+constexpr qint64 pictureBytes = 1200;
 
 /// One cell's text: control characters are blanks, and what the format cannot
 /// hold is left out.
@@ -48,6 +53,23 @@ double textWidth(const QString &text)
     }
     return width;
 }
+
+/// The library writes numbers as the locale has them, and a spreadsheet cannot
+/// be read with commas in its numbers.
+class DecimalPoints
+{
+public:
+    DecimalPoints() : m_before(std::setlocale(LC_NUMERIC, nullptr))
+    {
+        std::setlocale(LC_NUMERIC, "C");
+    }
+    DecimalPoints(const DecimalPoints &) = delete;
+    DecimalPoints &operator=(const DecimalPoints &) = delete;
+    ~DecimalPoints() { std::setlocale(LC_NUMERIC, m_before.c_str()); }
+
+private:
+    std::string m_before;
+};
 
 /// The file while it is being written, and a folder for what that takes.
 class SheetBook
@@ -79,19 +101,28 @@ public:
 
     void close()
     {
+        for (const QFileInfo &picture : QDir(m_folder.path()).entryInfoList(QDir::Files))
+            count(picture.size());
         checkRoom();
         check(workbook_close(std::exchange(m_book, nullptr)));
     }
     void check(lxw_error error) const
     {
+        if (error >= LXW_ERROR_CREATING_XLSX_FILE && error <= LXW_ERROR_ZIP_CLOSE)
+            m_target.refuseFullDisk();
         if (error != LXW_NO_ERROR)
             m_target.refuse(QString::fromUtf8(lxw_strerror(error)));
     }
-    /// The library does not notice when its own files find no room.
+    /// Told of all that goes into the library's files.
+    void count(qint64 bytes) { m_written += bytes; }
+    /// The library does not notice when its own files find no room, and when it
+    /// closes it copies them, and packs the copy: a file cut off would be the
+    /// result. So there must be room for that before.
     void checkRoom() const
     {
         const QStorageInfo disk(m_folder.path());
-        if (disk.isValid() && disk.bytesAvailable() < leastRoom)
+        const qint64 closing = m_written + m_written / 2;
+        if (disk.isValid() && disk.bytesAvailable() < leastRoom + closing)
             m_target.refuse(u"Geçici klasörde yer kalmadı; disk dolu."_s);
     }
     [[noreturn]] void refuse(const QString &reason) const { m_target.refuse(reason); }
@@ -100,13 +131,14 @@ private:
     const WholeFile &m_target;
     QTemporaryDir m_folder;
     lxw_workbook *m_book = nullptr;
+    qint64 m_written = 0;
 };
 
 /// Writes one sheet, row after row.
 class SheetWriter
 {
 public:
-    SheetWriter(const ReportSheet &sheet, const SheetBook &book, qsizetype number)
+    SheetWriter(const ReportSheet &sheet, SheetBook &book, qsizetype number)
         : m_sheet(sheet),
           m_table(sheet.table),
           m_book(book),
@@ -136,7 +168,7 @@ private:
 
     const ReportSheet &m_sheet;
     const ReportTable &m_table;
-    const SheetBook &m_book;
+    SheetBook &m_book;
     SheetThumbnails m_thumbnails;
     QList<qsizetype> m_columns; ///< those that are shown
     QList<double> m_widths;     ///< of the sheet's columns
@@ -258,6 +290,7 @@ void SheetWriter::writeValue(qsizetype row, qsizetype column, lxw_col_t at)
         return asText();
     m_widths[at] = qMax(m_widths[at], textWidth(m_table.cellText(row, column)));
     if (value.typeId() == QMetaType::QDate) {
+        m_book.count(cellBytes);
         constexpr int firstYear = 1900; // that the format knows
         const QDate date = value.toDate();
         if (date.year() < firstYear)
@@ -269,6 +302,7 @@ void SheetWriter::writeValue(qsizetype row, qsizetype column, lxw_col_t at)
     if (about.kind != ReportColumnKind::Number || value.typeId() == QMetaType::QString ||
         !std::isfinite(value.toDouble()))
         return asText();
+    m_book.count(cellBytes);
     check(worksheet_write_number(m_page, m_row, at, value.toDouble(),
                                  format(kind, about.picture, true)));
 }
@@ -290,6 +324,7 @@ void SheetWriter::writePicture(qsizetype row, qsizetype column, lxw_col_t at)
     options.y_scale = thumbnail.scale;
     options.object_position = LXW_OBJECT_MOVE_AND_SIZE;
     options.description = description.data();
+    m_book.count(pictureBytes);
     check(worksheet_insert_image_opt(m_page, m_row, at, thumbnail.file.constData(), &options));
 }
 
@@ -298,8 +333,11 @@ void SheetWriter::writeText(lxw_col_t at, const QString &text, lxw_format *forma
     while (m_widths.size() <= at)
         m_widths.append(0);
     m_widths[at] = qMax(m_widths[at], textWidth(text));
-    if (!text.isEmpty() || format != nullptr)
-        check(worksheet_write_string(m_page, m_row, at, sheetText(text).constData(), format));
+    if (text.isEmpty() && format == nullptr)
+        return;
+    const QByteArray bytes = sheetText(text);
+    m_book.count(cellBytes + bytes.size());
+    check(worksheet_write_string(m_page, m_row, at, bytes.constData(), format));
 }
 
 void SheetWriter::finish()
@@ -344,6 +382,7 @@ bool writeSheets(const QList<ReportSheet> &sheets, const QString &path,
                  const SheetProgress &progress)
 {
     const WholeFile target(u"Excel"_s, path);
+    const DecimalPoints points;
     SheetBook book(target);
     for (qsizetype i = 0; i < sheets.size(); ++i) {
         if (!SheetWriter(sheets[i], book, i).write(progress))

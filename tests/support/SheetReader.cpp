@@ -15,6 +15,10 @@ QByteArray output(const QString &program, const QStringList &arguments)
 {
     constexpr int longest = 120'000;
     QProcess process;
+    // What the file holds is asked for, not how the tester's country shows it.
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+    process.setProcessEnvironment(environment);
     process.start(program, arguments);
     if (!process.waitForFinished(longest) || process.exitCode() != 0)
         qWarning("%s: %s", qPrintable(program), process.readAllStandardError().constData());
