@@ -74,8 +74,11 @@ ScreenFactory modelScreen(ScreenServices &services)
 template <typename Report>
 OrderReportOpener orderReport(ScreenServices &services)
 {
-    return [&services](QWidget *parent, qint32 SecilenNo) {
-        Report(services.reportContext(), SecilenNo, parent).exec();
+    return [&services](QWidget *parent, qint32 SecilenNo, bool degisti) {
+        Report report(services.reportContext(), SecilenNo, parent);
+        if (degisti)
+            report.tellUnsaved();
+        report.exec();
     };
 }
 

@@ -87,6 +87,8 @@ void writeFoundry(Oturum &oturum, const OrderReportRequest &request)
 {
     const SiparisBasligi siparis = findOrder(oturum, request.Sipnum);
     const SiparisYariMamul rapor(oturum, siparis);
+    if (const QString note = rapor.modelNotu(); !note.isEmpty())
+        printError(note);
     const ReportTable &modeller = rapor.modeller();
     const ReportTable &kaliplar = rapor.kaliplar();
     request.output.write(

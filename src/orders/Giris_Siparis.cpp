@@ -236,9 +236,15 @@ void Giris_Siparis::TusAC()
     m_opened = collect();
 }
 
+/// Whether something on the screen is not stored.
+bool Giris_Siparis::hasChanges() const
+{
+    return isEditing() && (m_ui->Rapor->hasUnfinishedText() || !(collect() == m_opened));
+}
+
 bool Giris_Siparis::mayLeave()
 {
-    if (!isEditing() || (!m_ui->Rapor->hasUnfinishedText() && collect() == m_opened))
+    if (!hasChanges())
         return true;
     return m_context.messages.ask(this, u"DEĞİŞİKLİKLER KAYIT EDİLMEDİ, VAZGEÇİLSİN Mİ ?"_s,
                                   MessageIcon::Exclamation, {}, MessageAnswer::No);

@@ -19,8 +19,9 @@ class Giris_Siparis;
 }
 
 /// Opens a report on a stored order, whose number is the answer `SecilenNo` of
-/// the screen; handed in by the program.
-using OrderReportOpener = std::function<void(QWidget *parent, qint32 SecilenNo)>;
+/// the screen; handed in by the program. `degisti`: the screen shows changes
+/// that are not stored, so that the report does not know them.
+using OrderReportOpener = std::function<void(QWidget *parent, qint32 SecilenNo, bool degisti)>;
 
 struct OrderReports
 {
@@ -61,6 +62,7 @@ private:
     void TusAC();
     void setEditing(bool on);
     bool isEditing() const;
+    bool hasChanges() const;
     bool mayLeave();
     void abandon();
 

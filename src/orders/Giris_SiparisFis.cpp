@@ -108,5 +108,7 @@ void Giris_Siparis::openReport(const OrderReportOpener &report)
 {
     const double number = leadingNumber(m_ui->Sipnum->text());
     if (number > 0 && number <= std::numeric_limits<qint32>::max())
-        report(this, qint32(number));
+        report(this, qint32(number), hasChanges());
+    else
+        showWarning(u"Sipariş kaydedildikten sonra raporu alınabilir."_s);
 }

@@ -1,11 +1,14 @@
 #include "OrderShares.h"
 
+#include "Numbers.h"
+
 using namespace Qt::StringLiterals;
 
 ReportTable orderSharesTable(const QString &title, const QList<OrderShare> &shares,
                              const QString &picture)
 {
     using Kind = ReportColumnKind;
+    constexpr int unitDecimals = 6; // a third of a gram is not shown to its last digit
     ReportTable table;
     table.title = title;
     table.columns = {{u"TARİH"_s, Kind::Date},
@@ -20,8 +23,9 @@ ReportTable orderSharesTable(const QString &title, const QList<OrderShare> &shar
     double adet = 0;
     double miktar = 0;
     for (const OrderShare &share : shares) {
-        table.rows.append(ReportRow{{share.tarih, share.sipnum, share.firma, share.model, share.tip,
-                                     share.renk, share.adet, share.birim, share.miktar}});
+        table.rows.append(
+            ReportRow{{share.tarih, share.sipnum, share.firma, share.model, share.tip, share.renk,
+                       share.adet, roundDecimal(share.birim, unitDecimals), share.miktar}});
         adet += share.adet;
         miktar += share.miktar;
     }

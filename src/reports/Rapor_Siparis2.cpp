@@ -6,7 +6,6 @@
 #include "Oturum.h"
 #include "Rapor_Satirlar.h"
 #include "SiparisAlanlari.h"
-#include "Theme.h"
 #include "ui_Rapor_Siparis2.h"
 
 using namespace Qt::StringLiterals;
@@ -36,13 +35,15 @@ Rapor_Siparis2::Rapor_Siparis2(const RaporContext &context, qint32 SecilenNo, QW
 
 Rapor_Siparis2::~Rapor_Siparis2() = default;
 
+void Rapor_Siparis2::tellUnsaved()
+{
+    m_ui->Baslik->tellUnsaved();
+}
+
 void Rapor_Siparis2::setUpLook()
 {
     fitToScreen(*this, QSize(620, 560));
-    QPalette warning = palette();
-    warning.setColor(QPalette::WindowText, themeColors(warning).mark);
-    m_ui->kurNotu->setPalette(warning);
-    m_ui->kurNotu->hide();
+    makeNote(*m_ui->kurNotu);
 }
 
 void Rapor_Siparis2::open(qint32 SecilenNo)

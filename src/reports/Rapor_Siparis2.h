@@ -20,6 +20,9 @@ public:
     Rapor_Siparis2(const RaporContext &context, qint32 SecilenNo, QWidget *parent = nullptr);
     ~Rapor_Siparis2() override;
 
+    /// The order was changed without being saved: the figures know nothing of that.
+    void tellUnsaved();
+
 private:
     void setUpLook();
     void open(qint32 SecilenNo);

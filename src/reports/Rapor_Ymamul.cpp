@@ -16,12 +16,18 @@ Rapor_Ymamul::Rapor_Ymamul(const RaporContext &context, qint32 SecilenNo, QWidge
 {
     m_ui->setupUi(this);
     fitToScreen(*this, QSize(960, 640));
+    m_ui->modelNotu->hide();
     guarded(m_context.messages, this, [&] { open(SecilenNo); });
     connectControls();
     m_ui->Rapor1->setFocus();
 }
 
 Rapor_Ymamul::~Rapor_Ymamul() = default;
+
+void Rapor_Ymamul::tellUnsaved()
+{
+    m_ui->Baslik->tellUnsaved();
+}
 
 void Rapor_Ymamul::open(qint32 SecilenNo)
 {
@@ -37,6 +43,8 @@ void Rapor_Ymamul::open(qint32 SecilenNo)
     m_rapor = std::make_unique<SiparisYariMamul>(m_context.oturum, *m_siparis);
     m_ui->Rapor1->setTable(m_rapor->modeller());
     m_ui->Rapor->setTable(m_rapor->kaliplar());
+    m_ui->modelNotu->setText(m_rapor->modelNotu());
+    m_ui->modelNotu->setVisible(!m_ui->modelNotu->text().isEmpty());
 }
 
 void Rapor_Ymamul::connectControls()

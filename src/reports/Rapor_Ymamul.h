@@ -21,6 +21,9 @@ public:
     Rapor_Ymamul(const RaporContext &context, qint32 SecilenNo, QWidget *parent = nullptr);
     ~Rapor_Ymamul() override;
 
+    /// The order was changed without being saved: the figures know nothing of that.
+    void tellUnsaved();
+
 private:
     void connectControls();
     void open(qint32 SecilenNo);

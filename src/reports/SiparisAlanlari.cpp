@@ -12,14 +12,28 @@ using namespace Qt::StringLiterals;
 
 SiparisAlanlari::SiparisAlanlari(QWidget *parent) : QFrame(parent)
 {
-    auto *layout = new QHBoxLayout(this);
+    auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(2, 0, 2, 4);
-    layout->setSpacing(28);
+    layout->setSpacing(8);
+    m_fields = new QHBoxLayout;
+    m_fields->setSpacing(28);
+    layout->addLayout(m_fields);
     m_SipTrh = addField(u"Sipariş Tarihi"_s, u"SipTrh"_s);
     m_Sipnum = addField(u"Sipariş No"_s, u"Sipnum"_s);
     m_Ayar = addField(u"Ayar"_s, u"Ayar"_s);
     m_FirAdi = addField(u"Müşteri"_s, u"FirAdi"_s);
-    layout->setStretch(layout->count() - 1, 1);
+    m_fields->setStretch(m_fields->count() - 1, 1);
+    addNote();
+}
+
+void SiparisAlanlari::addNote()
+{
+    m_not = new QLabel(
+        u"Siparişte kaydedilmemiş değişiklikler var; rapor siparişin kayıtlı haline göredir."_s);
+    m_not->setObjectName(u"kayitNotu"_s);
+    m_not->setAccessibleName(u"Kaydedilmemiş değişiklik"_s);
+    makeNote(*m_not);
+    layout()->addWidget(m_not);
 }
 
 /// A small caption over the value.
@@ -41,7 +55,7 @@ QLabel *SiparisAlanlari::addField(const QString &caption, const QString &name)
     field->setSpacing(2);
     field->addWidget(above);
     field->addWidget(value);
-    static_cast<QHBoxLayout *>(layout())->addLayout(field);
+    m_fields->addLayout(field);
     return value;
 }
 
@@ -55,6 +69,15 @@ void SiparisAlanlari::setOrder(const std::optional<SiparisBasligi> &siparis)
     m_Sipnum->setText(QString::number(siparis->Sipnum));
     m_Ayar->setText(plainNumber(siparis->Ayar));
     m_FirAdi->setText(siparis->FirAdi);
+}
+
+void makeNote(QLabel &note)
+{
+    QPalette palette = note.palette();
+    palette.setColor(QPalette::WindowText, themeColors(palette).mark);
+    note.setPalette(palette);
+    note.setWordWrap(true);
+    note.hide();
 }
 
 void fitToScreen(QWidget &window, QSize wanted)

@@ -4,6 +4,7 @@
 
 #include <QFrame>
 
+class QHBoxLayout;
 class QLabel;
 
 /// The order that a report is of, above its figures: date, number, karat and
@@ -18,14 +19,23 @@ public:
     /// Nothing leaves the fields empty.
     void setOrder(const std::optional<SiparisBasligi> &siparis);
 
+    /// Says that the order on the screen is not what is stored.
+    void tellUnsaved() { m_not->show(); }
+
 private:
+    void addNote();
     QLabel *addField(const QString &caption, const QString &name);
 
     QLabel *m_SipTrh;
     QLabel *m_Sipnum;
     QLabel *m_Ayar;
     QLabel *m_FirAdi;
+    QHBoxLayout *m_fields;
+    QLabel *m_not;
 };
+
+/// Sets a note in the colour of what must not be overlooked.
+void makeNote(QLabel &note);
 
 /// Gives a window its size, as far as the screen allows.
 void fitToScreen(QWidget &window, QSize wanted);

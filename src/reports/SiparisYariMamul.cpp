@@ -133,7 +133,7 @@ void SiparisYariMamul::DetayDoldur()
 
 /// A model stands in the report once for each of its types, and lines of the
 /// same count once for all of them: only the first of such adds to the figure.
-ReportTable SiparisYariMamul::modelSatirlari(qsizetype row, qsizetype column) const
+SiparisYariMamul::ModelPaylari SiparisYariMamul::modelPaylari(qsizetype row, qsizetype column) const
 {
     Recordset Kayit = m_oturum.sorgula(
         u"Select SipModel, SipUruntip, Siprenk, SipAdet From SiparisD Where SipnumD = "_s +
@@ -144,24 +144,49 @@ ReportTable SiparisYariMamul::modelSatirlari(qsizetype row, qsizetype column) co
         stored.append(lines.share(Kayit, 0));
 
     const bool total = m_modeller.rows[row].kind == ReportRowKind::Total;
-    QList<OrderShare> shares;
+    ModelPaylari paylar;
     for (qsizetype i = 0; i < m_modeller.rows.size() - 1; ++i) {
         const QVariantList &values = m_modeller.rows[i].values;
         const double adet = values[ModelAdet].toDouble();
         double figure = values[column].toDouble();
         if (total && column == Has)
             figure = roundDecimal(figure, 2);
+        bool first = true;
         for (OrderShare share : stored) {
             if ((!total && i != row) || !sameText(share.model, values[UrunKodu].toString()) ||
                 share.adet != adet)
                 continue;
             share.birim = adet == 0 ? 0 : figure / adet;
             share.miktar = std::exchange(figure, 0);
-            shares.append(share);
+            paylar.shares.append(share);
+            paylar.tipFarkli =
+                paylar.tipFarkli || (adet != 0 && share.tip != values[Tip].toString());
+            paylar.esitVar = paylar.esitVar || (!first && adet != 0);
+            first = false;
         }
     }
-    return orderSharesTable(figureTitle(m_modeller, row, column), shares,
-                            m_modeller.columns[column].picture);
+    return paylar;
+}
+
+ReportTable SiparisYariMamul::modelSatirlari(qsizetype row, qsizetype column) const
+{
+    const ModelPaylari paylar = modelPaylari(row, column);
+    QString title = figureTitle(m_modeller, row, column);
+    if (paylar.esitVar)
+        title += u"\nModeli ve adedi aynı olan satırlardan yalnız ilki bu rakama girer."_s;
+    return orderSharesTable(title, paylar.shares, m_modeller.columns[column].picture);
+}
+
+QString SiparisYariMamul::modelNotu() const
+{
+    const ModelPaylari paylar = modelPaylari(m_modeller.rows.size() - 1, ModelAdet);
+    QStringList notes;
+    if (paylar.esitVar)
+        notes.append(u"Modeli ve adedi aynı olan sipariş satırları tek satırda durur, toplama "
+                     "yalnız biri girer."_s);
+    if (paylar.tipFarkli)
+        notes.append(u"Birden çok tipi olan model her tipinde durur, toplama her biri girer."_s);
+    return notes.join(u'\n');
 }
 
 ReportTable SiparisYariMamul::kalipSatirlari(qsizetype row, qsizetype column) const

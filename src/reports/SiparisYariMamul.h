@@ -1,6 +1,6 @@
 #pragma once
 
-#include "ReportTable.h"
+#include "OrderShares.h"
 #include "SiparisBasligi.h"
 
 struct Oturum;
@@ -19,6 +19,9 @@ public:
     /// A line for each model, type and count, then the total. Order lines alike
     /// in these stand in one line.
     const ReportTable &modeller() const { return m_modeller; }
+    /// What the user is told where the totals are not those of the order's lines:
+    /// lines alike stand in one, or a model stands under several types. Else empty.
+    QString modelNotu() const;
     /// A group for each place, each with its total, then the total of all.
     const ReportTable &kaliplar() const { return m_kaliplar; }
 
@@ -29,6 +32,13 @@ public:
 private:
     void Detaydoldur1();
     void DetayDoldur();
+    struct ModelPaylari
+    {
+        QList<OrderShare> shares;
+        bool esitVar = false;   ///< lines that add nothing, as one like them does
+        bool tipFarkli = false; ///< lines that also stand under another type
+    };
+    ModelPaylari modelPaylari(qsizetype row, qsizetype column) const;
 
     Oturum &m_oturum;
     SiparisBasligi m_siparis;

@@ -196,6 +196,29 @@ private Q_SLOTS:
             QVERIFY(!pdfWord(pdf, u"İnci-1"_s).text.isEmpty());
     }
 
+    void oneOrderIsReported()
+    {
+        const QString csv = m_folder.filePath(u"siparis.csv"_s);
+        const auto report = [&](const QString &word, const QStringList &more) {
+            return kuyum(QStringList{u"rapor"_s, word, m_database, u"1"_s, u"--csv"_s, csv} + more);
+        };
+        const auto written = [&] {
+            QFile file(csv);
+            return file.open(QFile::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+        };
+        const Outcome stones =
+            report(u"siparis-tas"_s, {u"--tarih"_s, u"1.3.2012"_s, u"--doviz"_s, u"EUR"_s});
+        QCOMPARE(stones.exitCode, 0);
+        QVERIFY2(stones.error.contains(u"HAS kuru yok"_s), qPrintable(stones.error));
+        QVERIFY2(written().contains(u"\n\"PRL 1\",4,0.02,1.6,0.01,-0.01\n"_s),
+                 qPrintable(written()));
+        QCOMPARE(report(u"siparis-tas"_s, {u"--doviz"_s, u"XXX"_s}).exitCode, 1);
+        // Models and molds in one file, an empty line between them.
+        QCOMPARE(report(u"yarimamul"_s, {}).exitCode, 0);
+        QVERIFY2(written().contains(u"\"Toplam\",,10,392.26,229.48\n\n\"KOD\""_s),
+                 qPrintable(written()));
+    }
+
     void aSelectGivesCsv()
     {
         const Outcome outcome =

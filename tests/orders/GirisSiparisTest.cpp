@@ -45,8 +45,10 @@ struct Screen : OrderFixture, Keyboard
                           viewer},
             settings,
             OrderReports{
-                [this](QWidget *, qint32 order) { reports.append(u"tas %1"_s.arg(order)); },
-                [this](QWidget *, qint32 order) { reports.append(u"ymamul %1"_s.arg(order)); }});
+                [this](QWidget *, qint32 order, bool) { reports.append(u"tas %1"_s.arg(order)); },
+                [this](QWidget *, qint32 order, bool degisti) {
+                    reports.append(u"ymamul %1%2"_s.arg(order).arg(degisti ? u"*"_s : QString()));
+                }});
         screen->show();
         QVERIFY(QTest::qWaitForWindowActive(screen.get()));
     }
@@ -259,7 +261,12 @@ void GirisSiparisTest::walksThroughTheStates()
     QCOMPARE(s.grid()->model()->rowCount(), 3); // an empty one for new input
     s.press(u"cmdTAS"_s);
     s.press(u"CmdYmamul"_s);
-    QCOMPARE(s.reports, (QStringList{u"tas 1"_s, u"ymamul 1"_s}));
+    s.control(u"Patent"_s)->setFocus();
+    s.type(u"x"_s);
+    s.press(u"CmdYmamul"_s); // told that this is not stored
+    s.control(u"Patent"_s)->setFocus();
+    s.key(Qt::Key_Z, Qt::ControlModifier);
+    QCOMPARE(s.reports, (QStringList{u"tas 1"_s, u"ymamul 1"_s, u"ymamul 1*"_s}));
     s.press(u"cmdvazgec"_s);
     QCOMPARE(s.text(u"FirAdi"_s) + s.text(u"Firkod"_s) + s.text(u"Ayar"_s), QString());
     s.answerList({}, 2);

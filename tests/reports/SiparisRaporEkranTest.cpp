@@ -205,7 +205,7 @@ private Q_SLOTS:
         Reports on;
         QSettings settings(on.dir.filePath(u"ayar.ini"_s), QSettings::IniFormat);
         QList<QStringList> shown;
-        const OrderReports reports{{}, [&](QWidget *parent, qint32 order) {
+        const OrderReports reports{{}, [&](QWidget *parent, qint32 order, bool) {
                                        Rapor_Ymamul report(on.context(), order, parent);
                                        whenOpen(u"Rapor_Ymamul"_s, [&](QWidget &window) {
                                            shown.append(rows(*grid(window, u"Rapor1"_s)));

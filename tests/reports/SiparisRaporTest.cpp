@@ -218,7 +218,9 @@ private:
     static void checkModels(Company &company, const SiparisBasligi &siparis,
                             const SiparisYariMamul &report)
     {
-        QSet<QString> seen;
+        QHash<QString, int> seen; // by which line
+        bool alike = false;
+        bool elsewhere = false;
         QStringList expected;
         double grams = 0;
         double gold = 0;
@@ -233,15 +235,20 @@ private:
                         foldedText(l[u"sipmodel"_s].toString()) + u'/' + t[u"tipid"_s].toString() +
                         u'/' + (l[u"sipadet"_s].isValid() ? l[u"sipadet"_s].toString() : u"-"_s) +
                         u'/' + m[u"m_miktar"_s].toString();
-                    if (seen.contains(key))
+                    const double adet = l[u"sipadet"_s].toDouble();
+                    elsewhere =
+                        elsewhere || (adet != 0 && !sameNumber(l[u"sipuruntip"_s], t[u"tipid"_s]));
+                    const int number = l[u"dotosayi"_s].toInt();
+                    if (seen.contains(key)) {
+                        alike = alike || (adet != 0 && seen[key] != number);
                         continue;
-                    seen.insert(key);
+                    }
+                    seen.insert(key, number);
                     double density = 0;
                     for (const Row &a : company.ayar) {
                         if (a[u"milyem"_s].toDouble() == siparis.Ayar)
                             density = a[u"yogunluk"_s].toDouble();
                     }
-                    const double adet = l[u"sipadet"_s].toDouble();
                     const double gram = cents(adet * m[u"m_miktar"_s].toDouble() * density);
                     const double has = gram * siparis.Ayar / 1000;
                     grams += gram;
@@ -261,6 +268,8 @@ private:
         const QVariantList &total = report.modeller().rows.last().values;
         QVERIFY(qAbs(total[3].toDouble() - grams) < 1e-6);
         QVERIFY(qAbs(total[4].toDouble() - gold) < 1e-6);
+        QCOMPARE(report.modelNotu().contains(u"adedi aynı"_s), alike);
+        QCOMPARE(report.modelNotu().contains(u"Birden çok tipi"_s), elsewhere);
     }
 
     static void checkMolds(Company &company, const SiparisBasligi &siparis,
