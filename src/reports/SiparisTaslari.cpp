@@ -6,6 +6,7 @@
 #include "Numbers.h"
 #include "Oturum.h"
 
+#include <algorithm>
 #include <QHash>
 
 using namespace Qt::StringLiterals;
@@ -147,6 +148,8 @@ QStringList raporDovizleri(Oturum &oturum)
 
 QString eksikKurNotu(QDate tarih, const QStringList &kurlar)
 {
+    QStringList named = kurlar;
+    std::ranges::replace(named, QString(), u"(birimi boş taşların)"_s);
     return u"%1 tarihinde %2 kuru yok: bu kurla çevrilen tutarlar 0 sayıldı, KAR doğru değil."_s
-        .arg(formatDate(tarih), kurlar.join(u", "_s));
+        .arg(formatDate(tarih), named.join(u", "_s));
 }
