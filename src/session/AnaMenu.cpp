@@ -2,6 +2,7 @@
 
 #include "DailyRates.h"
 #include "Dates.h"
+#include "ElidedLabel.h"
 #include "Guarded.h"
 #include "MenuPanel.h"
 #include "MenuStore.h"
@@ -48,9 +49,10 @@ void AnaMenu::showSession()
 {
     setWindowTitle(m_oturum.SirketAdi + u" -----> "_s + m_oturum.KullaniciAdi);
     statusBar()->setContentsMargins(10, 2, 10, 2);
-    statusBar()->addWidget(new QLabel(u"Kuyum  -  Altın takı sipariş ve üretim takibi  -  "
-                                      "Ver : 2012.03"_s),
-                           1);
+    auto *program =
+        new ElidedLabel(u"Kuyum  -  Altın takı sipariş ve üretim takibi  -  Ver : 2012.03"_s);
+    program->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    statusBar()->addWidget(program, 1);
     statusBar()->addPermanentWidget(new QLabel(m_oturum.DataYolu));
 
     QFont title = font();
@@ -69,8 +71,13 @@ void AnaMenu::showSession()
 
     QPalette quiet = palette();
     quiet.setColor(QPalette::WindowText, themeColors(quiet).muted);
-    for (QLabel *label : {m_ui->user, m_ui->hint, m_ui->groupOrders, m_ui->groupDefinitions,
-                          m_ui->groupCatalogues, m_ui->groupSystem})
+    const QList<QLabel *> quietLabels = {m_ui->user,
+                                         m_ui->hint,
+                                         m_ui->groupOrders,
+                                         m_ui->groupDefinitions,
+                                         m_ui->groupCatalogues,
+                                         m_ui->groupSystem};
+    for (QLabel *label : quietLabels)
         label->setPalette(quiet);
 }
 
