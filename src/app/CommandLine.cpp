@@ -1,5 +1,7 @@
 #include "CommandLine.h"
 
+#include "Dates.h"
+
 #include <cstdio>
 #include <exception>
 
@@ -48,6 +50,14 @@ void printTo(FILE *stream, const QString &line)
 }
 
 } // namespace
+
+QDate dateWord(const QString &word)
+{
+    const QDate date = parseDate(word);
+    if (!date.isValid())
+        throw WrongUsage();
+    return date;
+}
 
 const Command *findCommand(const QString &word)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QStringList>
 
 /// The words by which the program works without a window.
@@ -21,6 +22,9 @@ struct Command
 struct WrongUsage
 {
 };
+
+/// The day.month.year that a word tells; WrongUsage when it tells none.
+QDate dateWord(const QString &word);
 
 /// The command of that word; null when there is none.
 const Command *findCommand(const QString &word);

@@ -1,6 +1,5 @@
 #include "CommandLine.h"
 #include "CompanyPictures.h"
-#include "Dates.h"
 #include "MaterialReport.h"
 #include "ModelReport.h"
 #include "Oturum.h"
@@ -19,14 +18,6 @@ namespace {
 
 /// The options that only the model report knows.
 const QStringList modelOptions{u"bol"_s, u"firma"_s, u"ulke"_s, u"model"_s, u"tip"_s};
-
-QDate readDate(const QCommandLineParser &parser, const QString &option)
-{
-    const QDate date = parseDate(parser.value(option));
-    if (!date.isValid())
-        throw WrongUsage();
-    return date;
-}
 
 std::optional<qint32> readNumber(const QCommandLineParser &parser, const QString &option)
 {
@@ -64,7 +55,7 @@ using ReportMaker = std::function<std::unique_ptr<OrderReport>(Oturum &)>;
 /// Reads all words before the database is opened.
 ReportMaker reportMaker(const QString &kind, const QCommandLineParser &parser)
 {
-    const ReportPeriod period{readDate(parser, u"bas"_s), readDate(parser, u"bit"_s)};
+    const ReportPeriod period{dateWord(parser.value(u"bas"_s)), dateWord(parser.value(u"bit"_s))};
     const ModelReportRequest request = modelRequest(parser, period);
     if (kind == "model"_L1)
         return [request](Oturum &oturum) { return std::make_unique<ModelReport>(oturum, request); };

@@ -2,7 +2,6 @@
 
 #include "CommandLine.h"
 #include "CompanyPictures.h"
-#include "Dates.h"
 #include "OrderReportPages.h"
 #include "Oturum.h"
 #include "ReadableDatabase.h"
@@ -46,9 +45,9 @@ OrderReportRequest readRequest(const QStringList &arguments)
     request.Sipnum = words[1].toInt(&isNumber);
     request.doviz = parser.value(doviz);
     if (parser.isSet(tarih))
-        request.tarih = parseDate(parser.value(tarih));
+        request.tarih = dateWord(parser.value(tarih));
     request.output = reportOutput(parser);
-    if (!isNumber || !request.tarih.isValid())
+    if (!isNumber)
         throw WrongUsage();
     return request;
 }

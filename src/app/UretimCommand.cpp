@@ -1,6 +1,5 @@
 #include "CommandLine.h"
 #include "CompanyPictures.h"
-#include "Dates.h"
 #include "Oturum.h"
 #include "ReadableDatabase.h"
 #include "SiparisStore.h"
@@ -37,14 +36,6 @@ QList<qint32> readOrders(const QString &word)
     return siparisler;
 }
 
-QDate readDate(const QString &word)
-{
-    const QDate date = parseDate(word);
-    if (!date.isValid())
-        throw WrongUsage();
-    return date;
-}
-
 UretimIstegi readRequest(const QStringList &arguments)
 {
     QCommandLineParser parser;
@@ -64,7 +55,7 @@ UretimIstegi readRequest(const QStringList &arguments)
     UretimIstegi request;
     request.database = words[0];
     request.siparisler = readOrders(words[1]);
-    request.filtre = {readDate(parser.value(bas)), readDate(parser.value(bit)), {}, {}};
+    request.filtre = {dateWord(parser.value(bas)), dateWord(parser.value(bit)), {}, {}};
     if (parser.isSet(sipdur))
         request.filtre.sipDur = parser.value(sipdur);
     if (parser.isSet(uretdur))

@@ -1,7 +1,7 @@
 #include "BarcodeReader.h"
-#include "DocumentViewer.h"
 #include "EtiketStore.h"
 #include "Giris_Siparis.h"
+#include "KeptDocuments.h"
 #include "Keyboard.h"
 #include "OrderFixture.h"
 #include "PrintDocument.h"
@@ -15,14 +15,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Keeps what was to be shown.
-class KeptDocuments : public DocumentViewer
-{
-public:
-    void show(QWidget *, const PrintDocument &document) override { documents.append(document); }
-    QList<PrintDocument> documents;
-};
 
 /// The order screen on a fresh company, with a lookup list that answers as
 /// told beforehand.

@@ -1,8 +1,8 @@
 #include "ChoiceBox.h"
 #include "DateBox.h"
 #include "Dates.h"
-#include "DocumentViewer.h"
 #include "ExcelAktar.h"
+#include "KeptDocuments.h"
 #include "Keyboard.h"
 #include "OrderFixture.h"
 #include "PrintDocument.h"
@@ -20,13 +20,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-class KeptDocuments : public DocumentViewer
-{
-public:
-    void show(QWidget *, const PrintDocument &document) override { documents.append(document); }
-    QList<PrintDocument> documents;
-};
 
 class NoSheets : public SpreadsheetApplication
 {

@@ -1,6 +1,6 @@
-#include "DocumentViewer.h"
 #include "ExcelAktar.h"
 #include "Giris_Siparis.h"
+#include "KeptDocuments.h"
 #include "Keyboard.h"
 #include "Oturum.h"
 #include "PrintDocument.h"
@@ -18,13 +18,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-class KeptDocuments : public DocumentViewer
-{
-public:
-    void show(QWidget *, const PrintDocument &document) override { documents.append(document); }
-    QList<PrintDocument> documents;
-};
 
 class FakeSpreadsheet : public SpreadsheetApplication
 {

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "DocumentViewer.h"
+#include "PrintDocument.h"
+
+#include <QList>
+
+/// Keeps what a screen wanted to show.
+class KeptDocuments : public DocumentViewer
+{
+public:
+    void show(QWidget *, const PrintDocument &document) override { documents.append(document); }
+    QList<PrintDocument> documents;
+};
