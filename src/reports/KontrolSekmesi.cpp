@@ -210,16 +210,18 @@ void KontrolSekmesi::save()
         !m_context.messages.ask(this, u"DEGİSİKLİKLER KAYIT EDİLECEK ?"_s,
                                 MessageIcon::Exclamation))
         return;
-    const auto tell = [this](const QString &text) {
+    bool failed = false;
+    const auto tell = [&](const QString &text) {
+        failed = true;
         m_context.messages.say(this, text, MessageIcon::Exclamation);
     };
-    bool saved = false;
+    bool ended = false;
     {
         StoppableWork work(this, u"SIPARIS KONTROL"_s, u"Satırlar kaydediliyor..."_s);
-        saved = m_takip.kaydet(m_Sipnum, m_model->satirlar(), tell, work.progress());
+        ended = m_takip.kaydet(m_Sipnum, m_model->satirlar(), tell, work.progress());
     }
-    // Stopped, the lines not yet written still stand only here.
-    if (saved)
+    // What was not written, since it failed or the user stopped, stands only here.
+    if (ended && !failed)
         clearTab();
 }
 

@@ -343,6 +343,12 @@ void RaporGenelTest::goesOnAfterALineThatFails()
                        .icon = MessageIcon::Exclamation});
     s.press(u"cmdKayit1"_s);
     QCOMPARE(s.field(3, u"Drm1"), QStringList({u""_s, u"ONAYLANDI"_s}));
+    // What was typed stays until it is on disk.
+    QCOMPARE(s.cell(0, TakipModel::SipDur), u"HAZIR"_s);
+    s.oturum.Veritabani->engine().run(u"DROP TRIGGER t"_s);
+    s.messages.expect(saveQuestion, MessageAnswer::Yes);
+    s.press(u"cmdKayit1"_s);
+    QCOMPARE(s.field(3, u"Drm1"), QStringList({u"HAZIR"_s, u"ONAYLANDI"_s}));
     QCOMPARE(s.grid()->model()->rowCount(), 0);
 }
 
