@@ -173,7 +173,7 @@ void Tanim_Katalog::EkranKapa()
 bool Tanim_Katalog::mayLeave()
 {
     m_ui->Rapor->finishEdit();
-    return !isEditing() || collect() == m_opened ||
+    return !isEditing() || (collect() == m_opened && !hasChosen()) ||
            m_context.messages.ask(this, u"DEĞİŞİKLİKLER KAYIT EDİLMEDİ, VAZGEÇİLSİN Mİ ?"_s,
                                   MessageIcon::Exclamation, {}, MessageAnswer::No);
 }
@@ -281,10 +281,15 @@ void Tanim_Katalog::showModel(const KatalogSatiri &model)
     TumunuSec(*m_ui->txtGram);
 }
 
+/// A text that was typed over the model is no choice.
+bool Tanim_Katalog::hasChosen() const
+{
+    return m_chosen && m_ui->txtModel->text() == m_chosen->Model;
+}
+
 void Tanim_Katalog::add()
 {
-    // A text that was typed over the model is no choice.
-    if (!m_chosen || m_ui->txtModel->text() != m_chosen->Model) {
+    if (!hasChosen()) {
         m_context.messages.say(this, u"MODEL SECIMI YAPILMAMIS ...!"_s);
         m_ui->txtModel->setFocus(Qt::TabFocusReason);
         return;
@@ -348,9 +353,19 @@ bool Tanim_Katalog::mayReplace()
                                   MessageIcon::Exclamation, {}, MessageAnswer::No);
 }
 
+/// A model that was chosen but not added would be missing from what is saved.
+void Tanim_Katalog::offerChosen()
+{
+    if (hasChosen() &&
+        m_context.messages.ask(this, m_chosen->Model + u" LİSTEYE EKLENMEDİ. EKLENSİN Mİ ?"_s,
+                               MessageIcon::Exclamation))
+        add();
+}
+
 void Tanim_Katalog::save()
 {
     m_ui->Rapor->finishEdit();
+    offerChosen();
     const Katalog katalog = collect();
     if (katalog.satirlar.isEmpty()) {
         m_context.messages.say(this, u"KATALOGDA HİÇ MODEL YOK ...!"_s, MessageIcon::Exclamation);

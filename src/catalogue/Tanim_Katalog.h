@@ -61,6 +61,8 @@ private:
 
     Katalog collect() const;
     bool mayReplace();
+    bool hasChosen() const;
+    void offerChosen();
     void save();
     void removeCatalogue();
     using Katalog_Baski = decltype(&Katalog_35);

@@ -60,7 +60,8 @@ private:
         m_document.line({margin, m_y - above},
                         {margin + character * (last.at + last.width), m_y - above});
     }
-    Twips lastLine() const { return m_document.height() - margin - lineHeight * 2; }
+    /// A line stays free above the page number.
+    Twips lastLine() const { return m_document.height() - margin - lineHeight * 3; }
 
     PrintDocument m_document;
     QStringList m_header;

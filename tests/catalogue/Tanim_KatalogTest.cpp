@@ -110,6 +110,21 @@ private Q_SLOTS:
         QCOMPARE(on.text(u"txtGram"_s), u"7"_s);
     }
 
+    void aChosenModelIsNotLeftOutUnseen()
+    {
+        Catalogues on;
+        on.enter({u"Kış"_s});
+        on.answers = {Catalogues::model(u"A75"_s, 1)};
+        on.enter({u"a"_s});
+        on.messages.expect(unsaved, MessageAnswer::No);
+        on.key(Qt::Key_Escape);
+        on.messages.expect(u"A75 LİSTEYE EKLENMEDİ. EKLENSİN Mİ ?"_s, MessageAnswer::Yes);
+        on.messages.expect(u"Kış ISIMLI KATALOG OLUŞTURULMUŞTUR...!"_s);
+        on.press(Qt::Key_K, u"cmdKayit"_s);
+        QCOMPARE(on.stored(u"Kış"_s).count(u'|'), 0);
+        QVERIFY(!on.stored(u"Kış"_s).isEmpty());
+    }
+
     void takesSeveralModelsAtOnceAndACatalogueFromTheList()
     {
         Catalogues on;
