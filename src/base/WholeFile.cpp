@@ -25,7 +25,7 @@ void WholeFile::write(const QByteArray &bytes) const
     write(source);
 }
 
-void WholeFile::write(QIODevice &source) const
+void WholeFile::write(QIODevice &source, const std::function<void(qint64)> &written) const
 {
     constexpr qint64 block = 1 << 20;
     QSaveFile file(m_path);
@@ -35,6 +35,8 @@ void WholeFile::write(QIODevice &source) const
         const QByteArray bytes = source.read(block);
         if (bytes.isEmpty() || file.write(bytes) != bytes.size())
             refuseFullDisk();
+        if (written)
+            written(file.pos());
     }
     // commit() does not notice when its last block finds no room; flush() does.
     if (!file.flush() || !file.commit())

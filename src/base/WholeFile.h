@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <QByteArray>
 #include <QString>
 
@@ -15,8 +16,9 @@ public:
     WholeFile(const QString &kind, const QString &path);
 
     void write(const QByteArray &bytes) const;
-    /// Writes all that the open device still has.
-    void write(QIODevice &source) const;
+    /// Writes all that the open device still has. Told how many bytes are
+    /// written, written() may throw to give up.
+    void write(QIODevice &source, const std::function<void(qint64 count)> &written = {}) const;
 
     [[noreturn]] void refuse(const QString &reason) const;
     [[noreturn]] void refuseFullDisk() const;

@@ -8,12 +8,21 @@
 class DatabaseError : public std::runtime_error
 {
 public:
-    explicit DatabaseError(const QString &text)
-        : std::runtime_error(text.toStdString()), m_text(text)
+    /// What a caller can do something about.
+    enum class Cause {
+        Other,
+        FileDamaged, ///< the file is no database, is cut off, or contradicts itself
+        FileMissing
+    };
+
+    explicit DatabaseError(const QString &text, Cause cause = Cause::Other)
+        : std::runtime_error(text.toStdString()), m_text(text), m_cause(cause)
     {
     }
     const QString &text() const { return m_text; }
+    Cause cause() const { return m_cause; }
 
 private:
     QString m_text;
+    Cause m_cause;
 };

@@ -59,9 +59,28 @@ void takeBackCutOffSave(const QString &path)
     }
 }
 
+DatabaseError::Cause causeOf(int code)
+{
+    const int primary = code & 0xff;
+    return primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB ? DatabaseError::Cause::FileDamaged
+                                                                 : DatabaseError::Cause::Other;
+}
+
 [[noreturn]] void throwFailure(int code, const QString &text)
 {
-    throw DatabaseError(turkishReason(code) + u" ("_s + text + u')');
+    throw DatabaseError(turkishReason(code) + u" ("_s + text + u')', causeOf(code));
+}
+
+/// SQLite takes a file without a byte for a new database, and would fill the
+/// place of a lost company with empty tables.
+void refuseWhatHoldsNothing(const QString &path)
+{
+    const QFileInfo file(path);
+    if (!file.isFile())
+        throw DatabaseError(u"Dosya bulunamadı: "_s + path, DatabaseError::Cause::FileMissing);
+    if (file.size() == 0)
+        throw DatabaseError(u"Veri tabanı dosyası boş: "_s + path,
+                            DatabaseError::Cause::FileDamaged);
 }
 
 QString uniqueConnectionName()
@@ -80,8 +99,8 @@ SqliteEngine::SqliteEngine(const QString &path, Mode mode)
     if (mode == Mode::ReadOnly)
         m_database.setConnectOptions(u"QSQLITE_OPEN_READONLY"_s);
     try {
-        if (mode != Mode::Create && !QFileInfo(path).isFile())
-            throw DatabaseError(u"Dosya bulunamadı: "_s + path);
+        if (mode != Mode::Create)
+            refuseWhatHoldsNothing(path);
         if (mode == Mode::ReadOnly)
             takeBackCutOffSave(path);
         if (!m_database.open())

@@ -1,0 +1,121 @@
+#include "Backup.h"
+#include "BackupCopy.h"
+#include "Database.h"
+#include "SqliteEngine.h"
+#include "WholeFile.h"
+
+#include <filesystem>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What the engine may leave beside a database and plays into whatever file
+/// bears the database's name.
+constexpr QLatin1StringView companionEndings[] = {"-journal"_L1, "-wal"_L1, "-shm"_L1};
+
+/// Copies a file to a place of no meaning, whole and on the disk.
+void copyFile(const QString &source, const QString &target, const WorkStage &stage)
+{
+    QFile file(source);
+    if (!file.open(QIODevice::ReadOnly))
+        throw DatabaseError(u"Dosya okunamıyor: "_s + QDir::toNativeSeparators(source));
+    const auto size = double(qMax<qint64>(1, file.size()));
+    try {
+        WholeFile(u"Veri tabanı"_s, target).write(file, [&](qint64 written) {
+            if (!stage.tell(qMin(1.0, double(written) / size)))
+                throw BackupCancelled();
+        });
+    } catch (const DatabaseError &) {
+        throw;
+    } catch (const std::runtime_error &error) {
+        throw DatabaseError(QString::fromUtf8(error.what()));
+    }
+}
+
+/// Keeps a damaged database as it is, with the journal that may belong to it.
+QString keepDamaged(const BackupPlace &place, const QString &database, const WorkStage &stage)
+{
+    const QString path = place.freePath(u"bozuk"_s);
+    const auto keep = [&](QLatin1StringView ending, const WorkStage &part) {
+        copyFile(database + ending, path + ending + u".part"_s, part);
+        if (!QFile::rename(path + ending + u".part"_s, path + ending))
+            throw DatabaseError(u"Bozuk dosya saklanamadı: "_s + QDir::toNativeSeparators(path));
+    };
+    for (const QLatin1StringView ending : companionEndings) {
+        if (QFileInfo::exists(database + ending))
+            keep(ending, stage.part(0, 0));
+    }
+    keep({}, stage);
+    return path;
+}
+
+QString keepCurrent(const BackupPlace &place, const QString &database, const WorkStage &stage)
+{
+    if (!QFileInfo::exists(database))
+        return {};
+    try {
+        // Takes back a save that was cut off, too.
+        const std::unique_ptr<Database> db = Database::open(database);
+        db->engine().run(u"BEGIN EXCLUSIVE"_s);
+        db->engine().run(u"ROLLBACK"_s);
+        return copyToBackup(*db, place.freePath(BackupKind::BeforeRestore), stage);
+    } catch (const DatabaseError &error) {
+        if (error.cause() != DatabaseError::Cause::FileDamaged)
+            throw;
+    }
+    return keepDamaged(place, database, stage);
+}
+
+/// Copies that an ended process left beside the database.
+void removeLeftovers(const QString &part)
+{
+    const QFileInfo file(part);
+    QDir folder = file.dir();
+    const QString pattern = file.fileName() + u'*';
+    for (const QString &name : folder.entryList({pattern}, QDir::Files | QDir::Hidden))
+        folder.remove(name);
+}
+
+void putInPlace(const QString &part, const QString &database)
+{
+    for (const QLatin1StringView ending : companionEndings) {
+        const QString companion = database + ending;
+        if (QFileInfo::exists(companion) && !QFile::remove(companion))
+            throw DatabaseError(u"Yarım kalmış kaydın dosyası silinemiyor: "_s +
+                                QDir::toNativeSeparators(companion));
+    }
+    // QFile renames over no file, and removing it first would leave none.
+    std::error_code failed;
+    std::filesystem::rename(QFileInfo(part).filesystemAbsoluteFilePath(),
+                            QFileInfo(database).filesystemAbsoluteFilePath(), failed);
+    if (failed) {
+        throw DatabaseError(u"Yedek, veri tabanının yerine konamadı; dosya başka bir program "
+                            "tarafından kullanılıyor olabilir: "_s +
+                            QDir::toNativeSeparators(database));
+    }
+}
+
+} // namespace
+
+QString restoreBackup(const QString &database, const QString &backup, const WorkProgress &progress)
+{
+    const WorkStage stage(progress, 0, 1000);
+    const BackupPlace place(database);
+    const QString part = QFileInfo(database).absoluteFilePath() + u".geriyukle"_s;
+    removeLeftovers(part);
+    try {
+        copyFile(backup, part, stage.part(0, 0.2));
+        // What comes into the place is what is checked.
+        checkBackupFile(part, backup, stage.part(0.2, 0.5));
+        const QString kept = keepCurrent(place, database, stage.part(0.5, 1));
+        putInPlace(part, database);
+        return kept;
+    } catch (...) {
+        removeLeftovers(part);
+        throw;
+    }
+}

@@ -1,0 +1,104 @@
+#include "Integrity.h"
+
+#include "Backup.h"
+#include "Dialect.h"
+#include "SqliteEngine.h"
+
+#include <cmath>
+#include <exception>
+#include <sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// While it lives, the engine asks the stage now and then whether to go on.
+/// How long a check takes is not known before, so that it nears its end ever
+/// more slowly.
+class Watch
+{
+public:
+    Watch(const SqliteEngine &engine, const WorkStage &stage)
+        : m_engine(engine), m_stage(stage), m_expected(expectedCalls(engine))
+    {
+        sqlite3_progress_handler(engine.handle(), stepsPerCall, &Watch::call, this);
+    }
+    ~Watch() { sqlite3_progress_handler(m_engine.handle(), 0, nullptr, nullptr); }
+    Watch(const Watch &) = delete;
+    Watch &operator=(const Watch &) = delete;
+
+    bool stopped() const { return m_stopped; }
+    void rethrow() const
+    {
+        if (m_failure)
+            std::rethrow_exception(m_failure);
+    }
+
+private:
+    static constexpr int stepsPerCall = 20000;
+
+    static double expectedCalls(const SqliteEngine &engine)
+    {
+        QSqlQuery pages = engine.run(u"PRAGMA page_count"_s);
+        constexpr double stepsPerPage = 800;
+        return engine.next(pages) ? 1 + pages.value(0).toDouble() * stepsPerPage / stepsPerCall : 1;
+    }
+
+    static int call(void *self)
+    {
+        auto &watch = *static_cast<Watch *>(self);
+        // The engine is C and lets no exception through.
+        try {
+            watch.m_stopped =
+                !watch.m_stage.tell(1 - std::exp(-1.5 * ++watch.m_calls / watch.m_expected));
+        } catch (...) {
+            watch.m_failure = std::current_exception();
+            watch.m_stopped = true;
+        }
+        return watch.m_stopped ? 1 : 0;
+    }
+
+    const SqliteEngine &m_engine;
+    const WorkStage &m_stage;
+    double m_expected;
+    double m_calls = 0;
+    bool m_stopped = false;
+    std::exception_ptr m_failure;
+};
+
+} // namespace
+
+QStringList integrityFaults(const SqliteEngine &engine, const WorkStage &stage)
+{
+    const Watch watch(engine, stage);
+    QStringList faults;
+    try {
+        QSqlQuery check = engine.run(u"PRAGMA integrity_check(20)"_s);
+        while (engine.next(check))
+            faults.append(check.value(0).toString());
+    } catch (const DatabaseError &error) {
+        watch.rethrow();
+        if (watch.stopped())
+            throw BackupCancelled();
+        if (error.cause() != DatabaseError::Cause::FileDamaged)
+            throw;
+        faults.append(error.text());
+    }
+    return faults == QStringList{u"ok"_s} ? QStringList() : faults;
+}
+
+QMap<QString, qint64> rowCounts(const SqliteEngine &engine)
+{
+    QStringList names;
+    QSqlQuery tables =
+        engine.run(u"SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY rowid"_s);
+    while (engine.next(tables))
+        names.append(tables.value(0).toString());
+    QMap<QString, qint64> counts;
+    for (const QString &name : names) {
+        QSqlQuery rows = engine.run(u"SELECT count(*) FROM "_s + quotedName(name));
+        engine.next(rows);
+        counts.insert(name, rows.value(0).toLongLong());
+    }
+    return counts;
+}
