@@ -18,6 +18,7 @@
 #include "Tanim_Renk.h"
 #include "Tanim_Tas.h"
 #include "Tanim_Uruntipi.h"
+#include "Tanim_User.h"
 
 namespace {
 
@@ -115,5 +116,6 @@ MenuScreens menuTable(ScreenServices &services)
         {11, reportScreen<Rapor_Siparis>(services)},
         {12, reportScreen<Rapor_Genel>(services)},
         {13, reportScreen<Rapor_Genel>(services)},
+        {17, screen<Tanim_User>(services)},
     };
 }

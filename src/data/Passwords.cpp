@@ -29,3 +29,13 @@ QString SifreCoz(const QString &scrambled)
 {
     return moved(scrambled, -1);
 }
+
+std::optional<qsizetype> firstUnstorable(const QString &text)
+{
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const std::optional<quint8> code = windows1254Code(text[i]);
+        if (!code || *code + i + 1 > 255)
+            return i;
+    }
+    return std::nullopt;
+}

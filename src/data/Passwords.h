@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <QString>
 
 /// Stored passwords: each character moved up by its place (the first by 1),
@@ -8,3 +9,7 @@
 /// Throws std::out_of_range when a code leaves the range of the code page.
 QString Sifrele(const QString &text);
 QString SifreCoz(const QString &scrambled);
+
+/// The index of the first character that SifreCoz would not give back from
+/// what Sifrele makes of it; nothing when the text can be a password.
+std::optional<qsizetype> firstUnstorable(const QString &text);

@@ -196,8 +196,8 @@ void SatirYaziRenk(QAbstractItemView &grid, const QColor &color)
     paintRow(grid, [&](QAbstractItemModel &model, const QModelIndex &cell) {
         QFont font = cell.data(Qt::FontRole).isValid() ? cell.data(Qt::FontRole).value<QFont>()
                                                        : grid.font();
-        font.setBold(true);
-        model.setData(cell, QBrush(color), Qt::ForegroundRole);
+        font.setBold(color.isValid());
+        model.setData(cell, color.isValid() ? QBrush(color) : QVariant(), Qt::ForegroundRole);
         model.setData(cell, font, Qt::FontRole);
     });
 }

@@ -47,6 +47,7 @@ void ignoreHeldEnter(QPushButton &button);
 void copyCells(const QTableView &grid);
 
 /// Mark the grid's current row, cell by cell, in the model's own roles; the
-/// first column becomes the current one.
+/// first column becomes the current one. SatirYaziRenk makes the text bold too,
+/// and without a colour takes both back.
 void SatirArkaRenk(QAbstractItemView &grid, const QColor &color);
-void SatirYaziRenk(QAbstractItemView &grid, const QColor &color);
+void SatirYaziRenk(QAbstractItemView &grid, const QColor &color = {});

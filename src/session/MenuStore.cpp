@@ -46,20 +46,33 @@ void MenuStore::addFrom(const QList<MenuOgesi> &items)
     transaction.commit();
 }
 
-QList<MenuOgesi> MenuStore::itemsOfUser()
+bool seesWholeMenu(QStringView User_Name)
 {
-    // Only these two spellings are the administrator; "admin" is a user like
-    // any other.
-    const bool administrator =
-        m_oturum.KullaniciAdi == "ADMIN"_L1 || m_oturum.KullaniciAdi == "Admin"_L1;
-    const QString sql = administrator
-                            ? u"SELECT * FROM Menuler Order by M_ID;"_s
-                            : u"SELECT * FROM MenuKisit INNER JOIN Menuler "
-                              "ON MenuKisit.MK_menuid = Menuler.M_ID Where MK_userid = "_s +
-                                  sqlNumber(m_oturum.KullaniciNo);
+    // In the menu "admin" is a user like any other.
+    return User_Name == "ADMIN"_L1 || User_Name == "Admin"_L1;
+}
+
+static constexpr auto wholeMenu = "SELECT * FROM Menuler Order by M_ID;"_L1;
+
+static QList<MenuOgesi> itemsOf(Recordset rows)
+{
     QList<MenuOgesi> items;
-    Recordset rows = m_oturum.sorgula(sql);
     while (rows.next())
         items.append({qint32(rows.integer(u"m_ID")), rows.text(u"m_Adi")});
     return items;
+}
+
+QList<MenuOgesi> MenuStore::items()
+{
+    return itemsOf(m_oturum.sorgula(wholeMenu));
+}
+
+QList<MenuOgesi> MenuStore::itemsOfUser()
+{
+    const QString sql = seesWholeMenu(m_oturum.KullaniciAdi)
+                            ? wholeMenu
+                            : u"SELECT * FROM MenuKisit INNER JOIN Menuler "
+                              "ON MenuKisit.MK_menuid = Menuler.M_ID Where MK_userid = "_s +
+                                  sqlNumber(m_oturum.KullaniciNo);
+    return itemsOf(m_oturum.sorgula(sql));
 }

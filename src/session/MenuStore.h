@@ -11,6 +11,12 @@ struct MenuOgesi
     QString m_Adi;
 };
 
+/// The number of the user administration.
+constexpr qint32 userMenu = 17;
+
+/// Whether the user of this name sees every item, whatever his rights.
+bool seesWholeMenu(QStringView User_Name);
+
 /// The menu items and the users' rights to them. Throws DatabaseError.
 class MenuStore
 {
@@ -19,6 +25,8 @@ public:
 
     /// Adds the items of a menu file that are not there yet; all or none.
     void addFrom(const QList<MenuOgesi> &items);
+    /// All that there are, by their numbers.
+    QList<MenuOgesi> items();
     /// What the logged-in user may use, in the order of the rows.
     QList<MenuOgesi> itemsOfUser();
 

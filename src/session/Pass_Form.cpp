@@ -17,8 +17,6 @@
 
 using namespace Qt::StringLiterals;
 
-static constexpr int longestPassword = 8;
-
 Pass_Form::Pass_Form(Oturum &oturum, Messages &messages, QWidget *parent)
     : QDialog(parent),
       m_oturum(oturum),

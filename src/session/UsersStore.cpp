@@ -1,5 +1,7 @@
 #include "UsersStore.h"
 
+#include "MenuStore.h"
+#include "Numbers.h"
 #include "Passwords.h"
 #include "SqlText.h"
 
@@ -18,15 +20,19 @@ QStringList UsersStore::activeNames()
 
 static Kullanici userOf(const Recordset &row)
 {
-    Kullanici user{qint32(row.integer(u"User_ID")), row.text(u"User_Name"), std::nullopt};
+    Kullanici user{.User_ID = qint32(row.integer(u"User_ID")),
+                   .User_Name = row.text(u"User_Name"),
+                   .user_pass = std::nullopt,
+                   .user_yetki1 = row.integer(u"user_yetki1") != 0,
+                   .User_Sil = row.integer(u"User_Sil") != 0};
     if (!row.isNull(u"user_pass"))
         user.user_pass = row.text(u"user_pass");
     return user;
 }
 
-std::optional<Kullanici> UsersStore::find(const QString &name)
+/// The row with exactly this name, else the first one.
+static std::optional<Kullanici> named(const QString &name, Recordset rows)
 {
-    Recordset rows = m_oturum.sorgula(u"select * from Users where user_name = "_s + sqlText(name));
     std::optional<Kullanici> first;
     while (rows.next()) {
         const Kullanici user = userOf(rows);
@@ -38,14 +44,126 @@ std::optional<Kullanici> UsersStore::find(const QString &name)
     return first;
 }
 
+std::optional<Kullanici> UsersStore::find(const QString &name)
+{
+    return named(name,
+                 m_oturum.sorgula(u"select * from Users where user_name = "_s + sqlText(name)));
+}
+
+static QString userSql(const QString &number)
+{
+    return u"Select * From Users Where User_Id = "_s + number;
+}
+
+std::optional<Kullanici> UsersStore::KullaniciBul(const QString &key)
+{
+    return named(
+        key, m_oturum.sorgula(isNumeric(key)
+                                  ? userSql(sqlNumber(leadingNumber(key)))
+                                  : u"Select * From Users Where User_name = "_s + sqlText(key)));
+}
+
+QList<qint32> UsersStore::rights(qint32 User_ID)
+{
+    QList<qint32> items;
+    Recordset rows =
+        m_oturum.sorgula(u"Select * From Menukisit Where mk_userid = "_s + sqlNumber(User_ID));
+    while (rows.next())
+        items.append(qint32(rows.integer(u"MK_menuid")));
+    return items;
+}
+
+QList<qint32> UsersStore::administrators()
+{
+    QList<Kullanici> active;
+    Recordset rows = m_oturum.sorgula(u"Select * From Users Where User_Sil = 0"_s);
+    while (rows.next())
+        active.append(userOf(rows));
+    QList<qint32> numbers;
+    for (const Kullanici &user : std::as_const(active)) {
+        const std::optional<QString> password = clearPassword(user);
+        const bool logsIn = password && password->size() <= longestPassword;
+        if (logsIn && (seesWholeMenu(user.User_Name) || rights(user.User_ID).contains(userMenu)))
+            numbers.append(user.User_ID);
+    }
+    return numbers;
+}
+
+qint32 UsersStore::nextNumber()
+{
+    Recordset rows = m_oturum.sorgula(u"Select Top 1 User_Id From Users Order by User_Id desc;"_s);
+    return rows.next() ? qint32(rows.integer(u"User_Id")) + 1 : 1;
+}
+
+/// Returns the user's number.
+qint32 UsersStore::writeUser(const Kullanici &user)
+{
+    const bool isNew = user.User_ID == 0;
+    const qint32 number = isNew ? nextNumber() : user.User_ID;
+    Recordset row = m_oturum.sorgula(userSql(sqlNumber(number)));
+    if (isNew) {
+        row.addNew();
+        row.set(u"User_ID", number);
+        row.set(u"User_Name", user.User_Name);
+        row.set(u"user_level", 0);
+        row.set(u"user_lastentry", m_oturum.CalismaTarihi);
+        row.set(u"user_lastsistem", m_oturum.CalismaTarihi);
+        row.set(u"user_ambkod", 0);
+        row.set(u"User_Sil", 0);
+    } else if (row.next()) {
+        row.edit();
+    } else {
+        throw DatabaseError(u"Kullanıcı bu arada silinmiş: "_s + user.User_Name);
+    }
+    row.set(u"user_pass", user.user_pass.value_or(QString()));
+    row.set(u"user_yetki1", user.user_yetki1 ? 1 : 0);
+    row.update();
+    return number;
+}
+
+static QString rightsRemoval(qint32 User_ID)
+{
+    return u"DELETE From Menukisit Where Mk_userid = "_s + sqlNumber(User_ID);
+}
+
+void UsersStore::save(const Kullanici &user, const QList<qint32> &rights)
+{
+    Transaction transaction(*m_oturum.Veritabani);
+    const qint32 number = writeUser(user);
+    m_oturum.calistir(rightsRemoval(number));
+    Recordset rows = m_oturum.Veritabani->table(u"MenuKisit"_s);
+    for (const qint32 item : rights) {
+        rows.addNew();
+        rows.set(u"MK_userid", number);
+        rows.set(u"MK_menuid", item);
+        rows.update();
+    }
+    transaction.commit();
+}
+
+void UsersStore::remove(qint32 User_ID)
+{
+    Transaction transaction(*m_oturum.Veritabani);
+    m_oturum.calistir(u"DELETE From Users Where User_Id = "_s + sqlNumber(User_ID));
+    m_oturum.calistir(rightsRemoval(User_ID));
+    transaction.commit();
+}
+
+std::optional<QString> clearPassword(const Kullanici &user)
+{
+    if (!user.user_pass.has_value())
+        return std::nullopt;
+    try {
+        return SifreCoz(*user.user_pass);
+    } catch (const std::out_of_range &) {
+        return std::nullopt;
+    }
+}
+
 PasswordCheck checkPassword(const Kullanici &user, const QString &typed)
 {
     if (!user.user_pass.has_value())
         return PasswordCheck::CannotLogIn;
-    try {
-        return SifreCoz(*user.user_pass) == typed ? PasswordCheck::Right : PasswordCheck::Wrong;
-    } catch (const std::out_of_range &) {
-        // What is stored was never scrambled: nothing typed can match it.
-        return PasswordCheck::Wrong;
-    }
+    // Nothing typed can match a stored text that was never scrambled.
+    return clearPassword(user) == typed ? PasswordCheck::Right : PasswordCheck::Wrong;
 }

@@ -106,6 +106,10 @@ void EntryControlsTest::rowMarks()
         QCOMPARE(cell->background().color(), QColor(255, 255, 0));
     }
     QVERIFY(grid.item(0, 0) == nullptr);
+
+    SatirYaziRenk(grid);
+    QVERIFY(!grid.item(1, 2)->data(Qt::ForegroundRole).isValid());
+    QVERIFY(!grid.item(1, 2)->font().bold());
 }
 
 void EntryControlsTest::dateBoxCompletesWhatIsADate()
