@@ -18,7 +18,7 @@ Tanim_User::Tanim_User(const ScreenContext &context, QWidget *parent)
       m_ui(std::make_unique<Ui::Tanim_User>())
 {
     m_ui->setupUi(this);
-    constexpr QSize wanted(860, 600);
+    constexpr QSize wanted(860, 640);
     constexpr QSize windowFrame(10, 60);
     resize(wanted.boundedTo(screen()->availableSize() - windowFrame));
     setUpControls();
@@ -198,9 +198,7 @@ bool Tanim_User::writeRow()
     user.user_pass = Sifrele(typed.password);
     user.user_yetki1 = typed.user_yetki1;
     m_store.save(user, typed.rights);
-    m_done =
-        u"%1 kaydedildi. Yetkiler, kullanıcının programa bir sonraki girişinde geçerli olur."_s.arg(
-            user.User_Name);
+    m_done = user.User_Name + u" kaydedildi. Yetkiler bir sonraki girişinde geçerli olur."_s;
     return true;
 }
 
