@@ -158,6 +158,13 @@ TableDef Database::tableDef(const QString &name) const
     return table;
 }
 
+qint64 Database::rowCount(const QString &table) const
+{
+    QSqlQuery rows = m_engine->run(u"SELECT count(*) FROM "_s + quotedName(table));
+    m_engine->next(rows);
+    return rows.value(0).toLongLong();
+}
+
 void Database::createTable(const TableDef &table)
 {
     QStringList fields;
@@ -190,6 +197,19 @@ void Database::createIndex(const QString &table, const IndexDef &index)
         index.unique || index.primary ? u"UNIQUE "_s : QString(),
         quotedName(definition.name + mark + index.name), quotedName(definition.name),
         fields.join(u", "_s)));
+}
+
+void Database::dropIndexes(const QString &table)
+{
+    // Only what was made by a statement: the engine keeps those of its own.
+    QSqlQuery made = m_engine->run(u"SELECT name FROM pragma_index_list(?) WHERE origin = 'c'"_s,
+                                   {tableDef(table).name});
+    QStringList names;
+    while (m_engine->next(made))
+        names.append(made.value(0).toString());
+    made.finish();
+    for (const QString &name : std::as_const(names))
+        m_engine->run(u"DROP INDEX "_s + quotedName(name));
 }
 
 void Database::raiseCounter(const QString &table, qint64 highest)

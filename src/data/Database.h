@@ -39,9 +39,12 @@ public:
     QStringList tableNames() const;
     bool hasTable(const QString &name) const;
     TableDef tableDef(const QString &name) const;
+    qint64 rowCount(const QString &table) const;
     void createTable(const TableDef &table);
     void addField(const QString &table, const FieldDef &field);
     void createIndex(const QString &table, const IndexDef &index);
+    /// Removes all indexes of a table; a counter stays its key.
+    void dropIndexes(const QString &table);
     /// The counter's next number will be higher than this one.
     void raiseCounter(const QString &table, qint64 highest);
 

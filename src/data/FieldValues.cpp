@@ -100,6 +100,7 @@ QVariant storedValue(const FieldDef &field, const QVariant &value)
     case FieldType::Text:
     case FieldType::Memo:
         return text(field, value);
+    case FieldType::Time:
     case FieldType::Binary:
     case FieldType::LongBinary:
     case FieldType::Guid:

@@ -160,34 +160,6 @@ QList<TableDef> labelTables()
     };
 }
 
-bool hasIndexOver(const TableDef &table, const IndexDef &wanted)
-{
-    for (const IndexDef &index : table.indexes) {
-        if (index.fields.size() < wanted.fields.size() || (wanted.unique && !index.unique))
-            continue;
-        bool same = true;
-        for (qsizetype i = 0; i < wanted.fields.size(); ++i)
-            same = same && index.fields[i].compare(wanted.fields[i], Qt::CaseInsensitive) == 0;
-        if (same)
-            return true;
-    }
-    return false;
-}
-
-/// A legacy file can have given the name to an index over other fields.
-IndexDef freelyNamed(IndexDef index, const TableDef &table)
-{
-    const auto isTaken = [&] {
-        return std::any_of(
-            table.indexes.begin(), table.indexes.end(),
-            [&](const IndexDef &present) { return sameText(present.name, index.name); });
-    };
-    const QString name = index.name;
-    for (int number = 2; isTaken(); ++number)
-        index.name = name + u'_' + QString::number(number);
-    return index;
-}
-
 std::unique_ptr<Database> openCurrent(const QString &path, const QList<TableDef> &tables)
 {
     std::unique_ptr<Database> db = Database::open(path);
@@ -233,6 +205,33 @@ const QList<TableDef> &registryTables()
          {key({u"Srkkod"_s})}},
     };
     return tables;
+}
+
+bool hasIndexOver(const TableDef &table, const IndexDef &wanted)
+{
+    for (const IndexDef &index : table.indexes) {
+        if (index.fields.size() < wanted.fields.size() || (wanted.unique && !index.unique))
+            continue;
+        bool same = true;
+        for (qsizetype i = 0; i < wanted.fields.size(); ++i)
+            same = same && index.fields[i].compare(wanted.fields[i], Qt::CaseInsensitive) == 0;
+        if (same)
+            return true;
+    }
+    return false;
+}
+
+IndexDef freelyNamed(IndexDef index, const TableDef &table)
+{
+    const auto isTaken = [&] {
+        return std::any_of(
+            table.indexes.begin(), table.indexes.end(),
+            [&](const IndexDef &present) { return sameText(present.name, index.name); });
+    };
+    const QString name = index.name;
+    for (int number = 2; isTaken(); ++number)
+        index.name = name + u'_' + QString::number(number);
+    return index;
 }
 
 void createIndexAsAllowed(Database &db, const QString &table, IndexDef index)

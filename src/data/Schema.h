@@ -24,6 +24,13 @@ void completeTables(Database &db, const QList<TableDef> &tables);
 /// Makes an index; one that the rows forbid to be unique without that.
 void createIndexAsAllowed(Database &db, const QString &table, IndexDef index);
 
+/// Whether the table has an index that begins with the wanted one's fields, and
+/// is unique where that one shall be.
+bool hasIndexOver(const TableDef &table, const IndexDef &wanted);
+
+/// The index under a name that none of the table's indexes has.
+IndexDef freelyNamed(IndexDef index, const TableDef &table);
+
 /// Opens a company for work: steps an older file up to the current layout,
 /// refuses a newer one with a DatabaseError that says so.
 std::unique_ptr<Database> openCompany(const QString &path);

@@ -59,16 +59,20 @@ void takeBackCutOffSave(const QString &path)
     }
 }
 
+/// The engine's numbers carry a detail above their last eight bits.
+constexpr int withoutDetail = 0xff;
+
 DatabaseError::Cause causeOf(int code)
 {
-    const int primary = code & 0xff;
+    const int primary = code & withoutDetail;
     return primary == SQLITE_CORRUPT || primary == SQLITE_NOTADB ? DatabaseError::Cause::FileDamaged
                                                                  : DatabaseError::Cause::Other;
 }
 
 [[noreturn]] void throwFailure(int code, const QString &text)
 {
-    throw DatabaseError(turkishReason(code) + u" ("_s + text + u')', causeOf(code));
+    throw DatabaseError(turkishReason(code) + u" ("_s + text + u')', causeOf(code),
+                        code & withoutDetail);
 }
 
 /// SQLite takes a file without a byte for a new database, and would fill the
@@ -76,8 +80,10 @@ DatabaseError::Cause causeOf(int code)
 void refuseWhatHoldsNothing(const QString &path)
 {
     const QFileInfo file(path);
-    if (!file.isFile())
-        throw DatabaseError(u"Dosya bulunamadı: "_s + path, DatabaseError::Cause::FileMissing);
+    if (!file.isFile()) {
+        throw DatabaseError(u"Dosya bulunamadı: "_s + path, DatabaseError::Cause::FileMissing,
+                            DatabaseError::cannotOpen);
+    }
     if (file.size() == 0)
         throw DatabaseError(u"Veri tabanı dosyası boş: "_s + path,
                             DatabaseError::Cause::FileDamaged);

@@ -19,7 +19,7 @@ struct Declared
 /// would read the text "007" as a number in a column declared MEMO, cut a
 /// whole Single to an integer, and round a large Currency. REAL and BLOB in
 /// these words keep it from doing so.
-constexpr std::array<Declared, 14> declaredTypes = {{
+constexpr std::array<Declared, 15> declaredTypes = {{
     {FieldType::Boolean, "BIT"_L1},
     {FieldType::Byte, "BYTE"_L1},
     {FieldType::Integer, "INTEGER"_L1},
@@ -28,6 +28,7 @@ constexpr std::array<Declared, 14> declaredTypes = {{
     {FieldType::Single, "REAL"_L1},
     {FieldType::Double, "DOUBLE"_L1},
     {FieldType::Date, "DATETIME"_L1},
+    {FieldType::Time, "TIME"_L1},
     {FieldType::Text, "TEXT"_L1},
     {FieldType::Binary, "BINARY BLOB"_L1},
     {FieldType::LongBinary, "LONGBINARY BLOB"_L1},

@@ -5,7 +5,8 @@
 #include <QVariant>
 
 /// What a field can hold: the types of the legacy engine. Date is a moment
-/// with a time of day. LongBinary is an OLE object.
+/// with a time of day. LongBinary is an OLE object. A legacy file has no Time;
+/// a database that another program made can.
 enum class FieldType {
     Boolean,
     Byte,
@@ -15,6 +16,7 @@ enum class FieldType {
     Single,
     Double,
     Date,
+    Time, ///< of day, as text
     Text,
     Binary,
     LongBinary,

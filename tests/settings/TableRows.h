@@ -1,0 +1,37 @@
+#pragma once
+
+#include "Database.h"
+#include "Dialect.h"
+#include "SqliteEngine.h"
+
+#include <QMap>
+
+/// Every stored value of a table as "type:value", row by row in their order.
+inline QList<QStringList> storedRows(const Database &db, const QString &table)
+{
+    const TableDef definition = db.tableDef(table);
+    QStringList fields;
+    for (const FieldDef &field : definition.fields) {
+        fields.append(
+            QStringLiteral("typeof(%1) || ':' || ifnull(%1, '')").arg(quotedName(field.name)));
+    }
+    QSqlQuery query = db.engine().run(QStringLiteral("SELECT %1 FROM %2 ORDER BY _rowid_")
+                                          .arg(fields.join(u','), quotedName(table)));
+    QList<QStringList> rows;
+    while (db.engine().next(query)) {
+        QStringList row;
+        for (qsizetype i = 0; i < fields.size(); ++i)
+            row.append(query.value(int(i)).toString());
+        rows.append(row);
+    }
+    return rows;
+}
+
+/// The same of all tables.
+inline QMap<QString, QList<QStringList>> storedTables(const Database &db)
+{
+    QMap<QString, QList<QStringList>> tables;
+    for (const QString &name : db.tableNames())
+        tables.insert(name, storedRows(db, name));
+    return tables;
+}
