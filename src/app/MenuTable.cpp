@@ -1,6 +1,7 @@
 #include "MenuTable.h"
 
 #include "CameraFrames.h"
+#include "Dosya_Yenile.h"
 #include "FrmWebcam.h"
 #include "Giris_Kur.h"
 #include "Giris_Siparis.h"
@@ -117,5 +118,6 @@ MenuScreens menuTable(ScreenServices &services)
         {12, reportScreen<Rapor_Genel>(services)},
         {13, reportScreen<Rapor_Genel>(services)},
         {17, screen<Tanim_User>(services)},
+        {19, screen<Dosya_Yenile>(services)},
     };
 }

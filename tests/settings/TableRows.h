@@ -35,3 +35,12 @@ inline QMap<QString, QList<QStringList>> storedTables(const Database &db)
         tables.insert(name, storedRows(db, name));
     return tables;
 }
+
+/// How all tables and indexes are defined.
+inline QString definitions(const Database &db)
+{
+    QSqlQuery query = db.engine().run(QStringLiteral(
+        "SELECT group_concat(sql, '\n') FROM (SELECT sql FROM sqlite_master ORDER BY name)"));
+    db.engine().next(query);
+    return query.value(0).toString();
+}

@@ -1,5 +1,6 @@
 #include "Yenileme.h"
 
+#include "ChosenTables.h"
 #include "OrderFixture.h"
 #include "Schema.h"
 #include "TableRows.h"
@@ -31,40 +32,6 @@ namespace {
 
 using Rows = QMap<QString, QList<QStringList>>;
 
-FieldDef field(const QString &name, FieldType type, int size = 0, const QVariant &preset = {})
-{
-    return {name, type, size, false, preset};
-}
-
-/// Differs from the sample company in tables, fields, types, sizes, indexes.
-QList<TableDef> chosenTables()
-{
-    return {
-        {u"TAS"_s,
-         {{u"tasid"_s, FieldType::Long, 0, true},
-          field(u"Taskodu"_s, FieldType::Text, 40),
-          field(u"TasBirimi"_s, FieldType::Text, 3),
-          field(u"Renk"_s, FieldType::Text, 10),
-          field(u"Stok"_s, FieldType::Double, 0, 5),
-          field(u"Giris"_s, FieldType::Date)},
-         {{u"PrimaryKey"_s, {u"tasid"_s}, true, true}, {u"renk"_s, {u"Renk"_s}}}},
-        {u"Ayar"_s,
-         {field(u"Milyem"_s, FieldType::Double), field(u"Yogunluk"_s, FieldType::Single),
-          field(u"Ad"_s, FieldType::Memo)}},
-        {u"Firma"_s,
-         {field(u"Firkod"_s, FieldType::Text, 10), field(u"FirAdi"_s, FieldType::Memo)},
-         {{u"tur"_s, {u"FirAdi"_s, u"Firkod"_s}, false, true},
-          {u"Aciklama"_s, {u"Aciklama"_s}, false, true}}},
-        {u"Katalog"_s,
-         {field(u"KatAdi"_s, FieldType::Text, 40), {u"KatID"_s, FieldType::Long, 0, true}}},
-        {u"Depo"_s,
-         {{u"DepoID"_s, FieldType::Long, 0, true},
-          field(u"Adi"_s, FieldType::Text, 20, u"Merkez"_s),
-          field(u"Kapali"_s, FieldType::Boolean, 0, 0)},
-         {{u"Adi"_s, {u"Adi"_s}, false, true}}},
-    };
-}
-
 /// As it was before, but for nulls and for the digits' new types.
 void compareKept(const Rows &before, const Rows &after)
 {
@@ -82,14 +49,6 @@ void compareKept(const Rows &before, const Rows &after)
             }
         }
     }
-}
-
-QString definitions(const Database &db)
-{
-    QSqlQuery query = db.engine().run(
-        u"SELECT group_concat(sql, '\n') FROM (SELECT sql FROM sqlite_master ORDER BY name)"_s);
-    db.engine().next(query);
-    return query.value(0).toString();
 }
 
 RefreshResult refresh(Database &db, const RefreshFailure &failure = {},
@@ -281,7 +240,7 @@ void YenilemeTest::newDatabaseHasAllButRows()
     OrderFixture company;
     const QString target = company.dir.filePath(u"boş.kuyum"_s);
     company.oturum.Veritabani->createTable(chosenTables().last());
-    company.oturum.Veritabani->addField(u"Tas"_s, field(u"Özel"_s, FieldType::Guid));
+    company.oturum.Veritabani->addField(u"Tas"_s, {u"Özel"_s, FieldType::Guid});
     QFile old(target);
     QVERIFY(old.open(QFile::WriteOnly) && old.write("eski") == 4);
     old.close();
