@@ -1,16 +1,16 @@
 #include "Dosya_Yenile.h"
 
+#include "EmptyDatabase.h"
 #include "EntryControls.h"
 #include "Guarded.h"
 #include "Oturum.h"
+#include "RefreshSource.h"
 #include "RegistryPaths.h"
 #include "StoppableWork.h"
 #include "TakeOver.h"
 #include "Theme.h"
 #include "ui_Dosya_Yenile.h"
 #include "Yenileme.h"
-#include "YenilemeKaynagi.h"
-#include "YeniVeritabani.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -66,25 +66,28 @@ QString saveTargetDialog(QWidget *parent, const QString &start)
     return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().value(0) : QString();
 }
 
-ReportTable differences(const QList<TabloDurumu> &tables)
+ReportTable differences(const QList<TableComparison> &tables)
 {
     ReportTable report;
     report.columns = {
         {u"Tablo"_s}, {u"Alan"_s}, {u"Burada"_s}, {u"Seçilen Dosyada"_s}, {u"Yapılacak"_s}};
-    for (const TabloDurumu &durum : tables) {
-        if (durum.yeni)
-            report.rows.append(
-                {{durum.ad, u""_s, u"yok"_s, u"%1 alan"_s.arg(durum.secilen.fields.size()),
-                  u"tablo açılır"_s}});
-        for (const FieldDef &alan : durum.yeniAlanlar)
-            report.rows.append(
-                {{durum.ad, alan.name, u"yok"_s, typeText(alan), u"alan eklenir"_s}});
-        for (const AlanFarki &fark : durum.genisleyen)
-            report.rows.append({{durum.ad, fark.burada.name, typeText(fark.burada),
-                                 typeText(fark.secilende), u"genişletilir"_s}});
-        for (const AlanFarki &fark : durum.kalan)
-            report.rows.append({{durum.ad, fark.burada.name, typeText(fark.burada),
-                                 typeText(fark.secilende), u"olduğu gibi kalır"_s}});
+    const auto add = [&report](const QStringList &texts) {
+        report.rows.append({QVariantList(texts.begin(), texts.end())});
+    };
+    for (const TableComparison &comparison : tables) {
+        const QString &name = comparison.name;
+        if (comparison.isNew) {
+            const QString fields = u"%1 alan"_s.arg(comparison.theirs.fields.size());
+            add({name, u""_s, u"yok"_s, fields, u"tablo açılır"_s});
+        }
+        for (const FieldDef &field : comparison.newFields)
+            add({name, field.name, u"yok"_s, typeText(field), u"alan eklenir"_s});
+        const auto addAll = [&](const QList<FieldDifference> &differences, const QString &fate) {
+            for (const FieldDifference &one : differences)
+                add({name, one.ours.name, typeText(one.ours), typeText(one.theirs), fate});
+        };
+        addAll(comparison.widened, u"genişletilir"_s);
+        addAll(comparison.left, u"olduğu gibi kalır"_s);
     }
     return report;
 }
@@ -209,21 +212,22 @@ QList<TableDef> Dosya_Yenile::readSource(const QString &path)
                 takeOver.cancel();
         });
     };
-    return kaynakOku(path, *m_context.oturum.Veritabani, watch).tables;
+    return readRefreshSource(path, *m_context.oturum.Veritabani, watch).tables;
 }
 
-void Dosya_Yenile::Combo_Doldur(const QList<TableDef> &secilen)
+void Dosya_Yenile::Combo_Doldur(const QList<TableDef> &chosen)
 {
-    const QList<TabloDurumu> tables = Kontrol_Et(*m_context.oturum.Veritabani, secilen);
+    const QList<TableComparison> tables = Kontrol_Et(*m_context.oturum.Veritabani, chosen);
     m_ui->Tablolar->clear();
-    for (const TabloDurumu &durum : tables)
-        m_ui->Tablolar->addItem(durum.text());
+    for (const TableComparison &comparison : tables)
+        m_ui->Tablolar->addItem(comparison.text());
     m_ui->Tablolar->setCurrentRow(0);
     const ReportTable report = differences(tables);
     m_ui->Farklar->setTable(report);
-    tell(report.rows.isEmpty() ? u"%1 tablo karşılaştırıldı, fark yok."_s.arg(tables.size())
-                               : u"%1 tablo karşılaştırıldı, %2 fark var."_s.arg(tables.size())
-                                     .arg(report.rows.size()));
+    tell(report.rows.isEmpty()
+             ? u"%1 tablo karşılaştırıldı, difference yok."_s.arg(tables.size())
+             : u"%1 tablo karşılaştırıldı, %2 difference var."_s.arg(tables.size())
+                   .arg(report.rows.size()));
 }
 
 // The two commands
@@ -288,11 +292,12 @@ void Dosya_Yenile::Disket()
         return;
     try {
         StoppableWork work(this, windowTitle(), u"Boş veri tabanı yapılıyor..."_s);
-        yeniVeritabani(oturum, target,
-                       [&, progress = work.progress()](const QString &table, int done, int total) {
-                           tell(u"Boş veri tabanı yapılıyor..."_s, table);
-                           return progress(done, total);
-                       });
+        makeEmptyDatabase(
+            oturum, target,
+            [&, progress = work.progress()](const QString &table, int done, int total) {
+                tell(u"Boş veri tabanı yapılıyor..."_s, table);
+                return progress(done, total);
+            });
     } catch (const CompanyLost &lost) {
         // Without the company nothing behind this screen can work.
         sayUnexpected(m_context.messages, this, lost);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "ScreenContext.h"
-#include "TabloKarsilastirma.h"
+#include "TableComparison.h"
 
 #include <functional>
 #include <memory>
@@ -41,7 +41,7 @@ private:
     void Sifre_Kontrol();
     void Gozat();
     QList<TableDef> readSource(const QString &path);
-    void Combo_Doldur(const QList<TableDef> &secilen);
+    void Combo_Doldur(const QList<TableDef> &chosen);
     void Yenile();
     void Disket();
     bool goesOnWithout(const QString &table, const QString &reason);

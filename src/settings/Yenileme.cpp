@@ -52,9 +52,12 @@ QString RefreshResult::text() const
             .arg(newTables)
             .arg(newFields)
             .arg(widenedFields)};
-    for (const AlanFarki &fark : kalan) {
+    for (const QString &table : failed)
+        lines.append(u"%1: güncellenemedi, olduğu gibi duruyor."_s.arg(table));
+    for (const FieldDifference &difference : left) {
         lines.append(u"%1.%2: %3 olarak kaldı (seçilen dosyada %4)."_s.arg(
-            fark.table, fark.burada.name, typeText(fark.burada), typeText(fark.secilende)));
+            difference.table, difference.ours.name, typeText(difference.ours),
+            typeText(difference.theirs)));
     }
     for (const QString &index : looseIndexes)
         lines.append(u"%1: tekrarlayan kayıtlar olduğu için tekil dizin kurulamadı."_s.arg(index));
@@ -66,8 +69,11 @@ QString RefreshResult::text() const
             }
         }
     }
-    for (const QString &table : failed)
-        lines.append(u"%1: güncellenemedi, olduğu gibi duruyor."_s.arg(table));
+    constexpr qsizetype shown = 12; // what fits on a low screen
+    if (const qsizetype more = lines.size() - shown; more > 0) {
+        lines.resize(shown);
+        lines.append(u"... ve %1 satır daha."_s.arg(more));
+    }
     lines.append(u"Yenilemeden önceki dosyanın kopyası: "_s + QDir::toNativeSeparators(backup));
     return lines.join(u'\n');
 }
@@ -77,35 +83,35 @@ Yenileme::Yenileme(Database &db, MaintenanceProgress progress, RefreshFailure fa
 {
 }
 
-RefreshResult Yenileme::yenile(const QList<TableDef> &secilen)
+RefreshResult Yenileme::yenile(const QList<TableDef> &chosen)
 {
     m_result = {};
     m_result.backup = copyBefore(m_db, BackupKind::BeforeRefresh, m_progress);
 
     Transaction transaction(m_db);
-    const QList<TabloDurumu> tables = Kontrol_Et(m_db, secilen);
+    const QList<TableComparison> tables = Kontrol_Et(m_db, chosen);
     m_done = 0;
     m_total = 0;
-    for (const TabloDurumu &durum : tables)
-        m_total += durum.yeni ? 0 : 2 * int(m_db.rowCount(durum.ad));
-    for (const TabloDurumu &durum : tables)
-        refresh(durum);
+    for (const TableComparison &comparison : tables)
+        m_total += comparison.isNew ? 0 : 2 * int(m_db.rowCount(comparison.name));
+    for (const TableComparison &comparison : tables)
+        refreshTable(comparison);
     transaction.commit();
     return m_result;
 }
 
 /// One table, wholly or not at all.
-void Yenileme::refresh(const TabloDurumu &durum)
+void Yenileme::refreshTable(const TableComparison &comparison)
 {
     const RefreshResult before = m_result;
-    m_rows = durum.yeni ? 0 : int(m_db.rowCount(durum.ad));
+    m_rows = comparison.isNew ? 0 : int(m_db.rowCount(comparison.name));
     Savepoint savepoint(m_db);
     try {
-        tell(durum.ad, 0);
-        if (durum.yeni)
-            Islem_Yap_Yeni(durum);
+        tell(comparison.name, 0);
+        if (comparison.isNew)
+            Islem_Yap_Yeni(comparison);
         else
-            Islem_Yap(durum);
+            Islem_Yap(comparison);
         savepoint.keep();
         ++m_result.tables;
     } catch (const MaintenanceStopped &) {
@@ -114,61 +120,61 @@ void Yenileme::refresh(const TabloDurumu &durum)
         try {
             savepoint.undo();
         } catch (const DatabaseError &) {
-            throw DatabaseError(u"%1: %2"_s.arg(durum.ad, error.text()), error.cause(),
+            throw DatabaseError(u"%1: %2"_s.arg(comparison.name, error.text()), error.cause(),
                                 error.number());
         }
         m_result = before;
-        m_result.failed.append(durum.ad);
-        if (!m_failure || !m_failure(durum.ad, error.text()))
+        m_result.failed.append(comparison.name);
+        if (!m_failure(comparison.name, error.text()))
             throw MaintenanceStopped();
     }
     m_done += 2 * m_rows;
 }
 
 /// A table that both have.
-void Yenileme::Islem_Yap(const TabloDurumu &durum)
+void Yenileme::Islem_Yap(const TableComparison &comparison)
 {
-    const TableDef present = m_db.tableDef(durum.ad);
+    const TableDef present = m_db.tableDef(comparison.name);
     TableDef wanted = present;
     bool rebuilds = false;
     for (FieldDef &field : wanted.fields) {
-        for (const AlanFarki &fark : durum.genisleyen) {
-            if (sameText(fark.burada.name, field.name)) {
-                field = *widened(field, fark.secilende);
+        for (const FieldDifference &difference : comparison.widened) {
+            if (sameText(difference.ours.name, field.name)) {
+                field = *widenedField(field, difference.theirs);
                 rebuilds = true;
             }
         }
     }
-    for (const FieldDef &field : durum.yeniAlanlar) {
+    for (const FieldDef &field : comparison.newFields) {
         if (field.counter && wanted.counter() == nullptr) {
             wanted.fields.append(field);
             rebuilds = true;
         }
     }
-    Index_Sil(durum.ad);
+    Index_Sil(comparison.name);
     if (rebuilds)
-        rebuildTable(m_db, wanted, [&](qint64 rows) { tell(durum.ad, rows); });
-    for (FieldDef field : durum.yeniAlanlar) {
+        rebuildTable(m_db, wanted, [&](qint64 rows) { tell(comparison.name, rows); });
+    for (FieldDef field : comparison.newFields) {
         if (wanted.field(field.name) != nullptr)
             continue;
         field.counter = false;
-        m_db.addField(durum.ad, field);
+        m_db.addField(comparison.name, field);
         // A default is for rows to come; those that are there get the neutral value.
         if (field.defaultValue.isValid())
-            m_db.execute(
-                u"UPDATE %1 SET %2 = Null"_s.arg(quotedName(durum.ad), quotedName(field.name)));
+            m_db.execute(u"UPDATE %1 SET %2 = Null"_s.arg(quotedName(comparison.name),
+                                                          quotedName(field.name)));
     }
-    Index_Yarat(durum.ad, durum.secilen.indexes, present.indexes);
-    Atama_Yap(durum.ad);
-    m_result.newFields += int(durum.yeniAlanlar.size());
-    m_result.widenedFields += int(durum.genisleyen.size());
-    m_result.kalan += durum.kalan;
+    Index_Yarat(comparison.name, comparison.theirs.indexes, present.indexes);
+    Atama_Yap(comparison.name);
+    m_result.newFields += int(comparison.newFields.size());
+    m_result.widenedFields += int(comparison.widened.size());
+    m_result.left += comparison.left;
 }
 
 /// A table that the working database lacks.
-void Yenileme::Islem_Yap_Yeni(const TabloDurumu &durum)
+void Yenileme::Islem_Yap_Yeni(const TableComparison &comparison)
 {
-    m_db.createTable(durum.secilen);
+    m_db.createTable(comparison.theirs);
     ++m_result.newTables;
 }
 
@@ -179,11 +185,11 @@ void Yenileme::Index_Sil(const QString &table)
 
 /// The chosen table's indexes, then those that this program's searches stand
 /// on, then the keys that the working table had: none of the three is lost.
-void Yenileme::Index_Yarat(const QString &table, const QList<IndexDef> &secilen,
-                           const QList<IndexDef> &eski)
+void Yenileme::Index_Yarat(const QString &table, const QList<IndexDef> &theirs,
+                           const QList<IndexDef> &ours)
 {
     const TableDef own = ownDescription(table);
-    QList<IndexDef> longestFirst = secilen;
+    QList<IndexDef> longestFirst = theirs;
     std::stable_sort(
         longestFirst.begin(), longestFirst.end(),
         [](const IndexDef &a, const IndexDef &b) { return a.fields.size() > b.fields.size(); });
@@ -196,7 +202,7 @@ void Yenileme::Index_Yarat(const QString &table, const QList<IndexDef> &secilen,
     }
     if (!own.name.isEmpty())
         completeTables(m_db, {own});
-    for (const IndexDef &index : eski) {
+    for (const IndexDef &index : ours) {
         if (index.unique && !hasKeyOver(m_db.tableDef(table), index))
             copyIndex(table, index);
     }

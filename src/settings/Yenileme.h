@@ -2,7 +2,7 @@
 
 #include "MaintenanceProgress.h"
 #include "NullFill.h"
-#include "TabloKarsilastirma.h"
+#include "TableComparison.h"
 
 /// Told of a table that could not be refreshed and stays as it was. True: the
 /// rest goes on; false: all is undone.
@@ -15,12 +15,12 @@ struct RefreshResult
     int newTables = 0;
     int newFields = 0;
     int widenedFields = 0;
-    QList<AlanFarki> kalan;    ///< fields that stay, of another type or size than the chosen
-    QStringList looseIndexes;  ///< that are not unique, since the rows forbid it
-    QList<FilledTable> filled; ///< of the tables that had rows before
-    QStringList failed;        ///< tables that stay as they were
+    QList<FieldDifference> left; ///< fields that stay, of another type or size than the chosen
+    QStringList looseIndexes;    ///< that are not unique, since the rows forbid it
+    QList<FilledTable> filled;   ///< of the tables that had rows before
+    QStringList failed;          ///< tables that stay as they were
 
-    /// For the user, a sentence a line; the copy's place last.
+    /// For the user, a sentence a line, what failed first; the copy's place last.
     QString text() const;
 };
 
@@ -38,16 +38,15 @@ public:
     Yenileme(Database &db, MaintenanceProgress progress, RefreshFailure failure);
 
     /// Throws DatabaseError and MaintenanceStopped; nothing is changed then.
-    RefreshResult yenile(const QList<TableDef> &secilen);
+    RefreshResult yenile(const QList<TableDef> &chosen);
 
 private:
-    void refresh(const TabloDurumu &durum);
-    bool goesOn(const TabloDurumu &durum);
-    void Islem_Yap(const TabloDurumu &durum);
-    void Islem_Yap_Yeni(const TabloDurumu &durum);
+    void refreshTable(const TableComparison &comparison);
+    void Islem_Yap(const TableComparison &comparison);
+    void Islem_Yap_Yeni(const TableComparison &comparison);
     void Index_Sil(const QString &table);
-    void Index_Yarat(const QString &table, const QList<IndexDef> &secilen,
-                     const QList<IndexDef> &eski);
+    void Index_Yarat(const QString &table, const QList<IndexDef> &theirs,
+                     const QList<IndexDef> &ours);
     void copyIndex(const QString &table, IndexDef index);
     void Atama_Yap(const QString &table);
     void tell(const QString &table, qint64 rows);

@@ -1,8 +1,8 @@
 #include "DosyaDuzelt.h"
 #include "Oturum.h"
+#include "RefreshSource.h"
 #include "Schema.h"
 #include "Yenileme.h"
-#include "YenilemeKaynagi.h"
 
 #include <cstdio>
 #include <QCoreApplication>
@@ -18,14 +18,14 @@ int main(int argc, char **argv)
     oturum.Veritabani = openCompany(arguments.at(1));
     QList<TableDef> chosen;
     if (arguments.size() > 2)
-        chosen = kaynakOku(arguments.at(2), *oturum.Veritabani).tables;
+        chosen = readRefreshSource(arguments.at(2), *oturum.Veritabani).tables;
     std::puts("begins");
     std::fflush(stdout);
     try {
         if (chosen.isEmpty())
             TumDosyalariDuzenle(oturum);
         else
-            Yenileme(*oturum.Veritabani, {}, {}).yenile(chosen);
+            Yenileme(*oturum.Veritabani, {}, [](auto...) { return false; }).yenile(chosen);
         std::puts("done");
     } catch (const DatabaseError &error) {
         std::puts("failed");

@@ -1,5 +1,6 @@
 #include "ChosenTables.h"
 #include "DosyaDuzelt.h"
+#include "EmptyDatabase.h"
 #include "FullDisk.h"
 #include "KilledProcess.h"
 #include "Oturum.h"
@@ -8,7 +9,6 @@
 #include "TableRows.h"
 #include "TestRegistry.h"
 #include "Yenileme.h"
-#include "YeniVeritabani.h"
 
 #include <QTemporaryDir>
 #include <QtTest>
@@ -75,13 +75,13 @@ private:
     State m_before;
 };
 
-/// A few thousand rows with nulls, so that there is a middle.
+/// Some thousand rows with nulls, so that there is a middle.
 void MaintenanceSafetyTest::initTestCase()
 {
     {
         const std::unique_ptr<Database> db = makeSampleCompany(path(u"once.kuyum"_s));
         const QString numbers =
-            u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 3000) "_s;
+            u"WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 1000) "_s;
         db->engine().run(u"INSERT INTO SiparisD (SipnumD, SipModel) "_s + numbers +
                          u"SELECT 4, 'A75' FROM n"_s);
         db->engine().run(u"INSERT INTO Tas (Taskodu) "_s + numbers +
@@ -131,7 +131,7 @@ void MaintenanceSafetyTest::fullDisk()
         work(oturum, refreshes);
         writes = disk.writes();
     }
-    constexpr int places = 25;
+    constexpr int places = 12;
     for (int place = 0; place < places; ++place) {
         QString told;
         {
@@ -163,7 +163,7 @@ void MaintenanceSafetyTest::fullDiskUnderANewDatabase()
     QFile old(target);
     QVERIFY(old.open(QFile::ReadWrite) && old.write("eski") == 4 && old.flush());
     disk.takeBytes(20000);
-    QVERIFY_THROWS_EXCEPTION(DatabaseError, yeniVeritabani(oturum, target, {}));
+    QVERIFY_THROWS_EXCEPTION(DatabaseError, makeEmptyDatabase(oturum, target, {}));
     disk.empty();
     QVERIFY(old.seek(0));
     QCOMPARE(old.readAll(), QByteArray("eski"));

@@ -1,12 +1,12 @@
 #include "Yenileme.h"
 
 #include "ChosenTables.h"
+#include "EmptyDatabase.h"
 #include "OrderFixture.h"
+#include "RefreshSource.h"
 #include "Schema.h"
 #include "TableRows.h"
 #include "TestRegistry.h"
-#include "YenilemeKaynagi.h"
-#include "YeniVeritabani.h"
 
 #include <QtTest>
 
@@ -51,8 +51,9 @@ void compareKept(const Rows &before, const Rows &after)
     }
 }
 
-RefreshResult refresh(Database &db, const RefreshFailure &failure = {},
-                      const MaintenanceProgress &progress = {})
+RefreshResult refresh(
+    Database &db, const RefreshFailure &failure = [](auto...) { return false; },
+    const MaintenanceProgress &progress = {})
 {
     return Yenileme(db, progress, failure).yenile(chosenTables());
 }
@@ -60,7 +61,7 @@ RefreshResult refresh(Database &db, const RefreshFailure &failure = {},
 QString refusal(const QString &path, const Database &working)
 {
     try {
-        kaynakOku(path, working);
+        readRefreshSource(path, working);
         return {};
     } catch (const DatabaseError &error) {
         return u"%1 %2"_s.arg(error.number()).arg(error.text());
@@ -70,7 +71,7 @@ QString refusal(const QString &path, const Database &working)
 QString targetRefusal(Oturum &oturum, const QString &path)
 {
     try {
-        yeniVeritabani(oturum, path, {});
+        makeEmptyDatabase(oturum, path, {});
         return {};
     } catch (const DatabaseError &error) {
         return u"%1 %2"_s.arg(error.number()).arg(error.text());
@@ -84,14 +85,15 @@ void YenilemeTest::comparesByNameTypeAndSize()
     const OrderFixture company;
     QStringList list;
     QStringList fields;
-    for (const TabloDurumu &durum : Kontrol_Et(*company.oturum.Veritabani, chosenTables())) {
-        list.append(durum.text());
-        for (const FieldDef &alan : durum.yeniAlanlar)
-            fields.append(u"+"_s + alan.name);
-        for (const AlanFarki &fark : durum.genisleyen)
-            fields.append(u"%1>%2"_s.arg(fark.burada.name, typeText(fark.secilende)));
-        for (const AlanFarki &fark : durum.kalan)
-            fields.append(u"%1!%2"_s.arg(fark.burada.name, typeText(fark.secilende)));
+    for (const TableComparison &comparison :
+         Kontrol_Et(*company.oturum.Veritabani, chosenTables())) {
+        list.append(comparison.text());
+        for (const FieldDef &field : comparison.newFields)
+            fields.append(u"+"_s + field.name);
+        for (const FieldDifference &difference : comparison.widened)
+            fields.append(u"%1>%2"_s.arg(difference.ours.name, typeText(difference.theirs)));
+        for (const FieldDifference &difference : comparison.left)
+            fields.append(u"%1!%2"_s.arg(difference.ours.name, typeText(difference.theirs)));
     }
     QCOMPARE(list, (QStringList{u"Tas-(ESKI)"_s, u"Ayar-(ESKI)"_s, u"Firma-(ESKI)"_s,
                                 u"Katalog-(ESKI)"_s, u"Depo-(YENI)"_s}));
@@ -229,7 +231,7 @@ void YenilemeTest::legacySourceTellsItsOwnTables()
         QSKIP("no example files");
     const OrderFixture company;
     QStringList names;
-    for (const TableDef &table : kaynakOku(source, *company.oturum.Veritabani).tables)
+    for (const TableDef &table : readRefreshSource(source, *company.oturum.Veritabani).tables)
         names.append(table.name);
     QVERIFY(names.contains(u"Firma"_s));
     QVERIFY(!names.contains(u"KatalogSira"_s)); // this program's own
@@ -245,7 +247,7 @@ void YenilemeTest::newDatabaseHasAllButRows()
     QVERIFY(old.open(QFile::WriteOnly) && old.write("eski") == 4);
     old.close();
 
-    yeniVeritabani(company.oturum, target, {});
+    makeEmptyDatabase(company.oturum, target, {});
 
     const std::unique_ptr<Database> made = openCompany(target);
     Database &db = *company.oturum.Veritabani;
@@ -280,12 +282,13 @@ void YenilemeTest::newDatabaseGoesNowhereElse()
     QVERIFY(targetRefusal(oturum, company.path()).contains(u"çalışılan veri tabanının kendisi"_s));
     QVERIFY(targetRefusal(oturum, oturum.kayitYolu).contains(u"kayıt dosyası"_s));
     QVERIFY(targetRefusal(oturum, path(u"ikinci.kuyum"_s)).contains(u"bir şirketin veri tabanı"_s));
+    QVERIFY(targetRefusal(oturum, path(u"a.MDB"_s)).contains(u".kuyum ile biten"_s));
     QVERIFY(targetRefusal(oturum, path(u"yok/a.kuyum"_s)).startsWith(u"14 "_s));
 
     QFile old(path(u"eski.kuyum"_s));
     QVERIFY(old.open(QFile::ReadWrite) && old.write("eski") == 4 && old.flush());
     const auto stop = [](const QString &what, int, int) { return what != u"Users"_s; };
-    QVERIFY_THROWS_EXCEPTION(MaintenanceStopped, yeniVeritabani(oturum, old.fileName(), stop));
+    QVERIFY_THROWS_EXCEPTION(MaintenanceStopped, makeEmptyDatabase(oturum, old.fileName(), stop));
     QVERIFY(old.seek(0));
     QCOMPARE(old.readAll(), QByteArray("eski"));
     QCOMPARE(company.headerCount(), 4); // the company is open after each of them

@@ -1,4 +1,4 @@
-#include "YenilemeKaynagi.h"
+#include "RefreshSource.h"
 
 #include "Database.h"
 #include "LegacyFile.h"
@@ -62,8 +62,8 @@ QList<TableDef> legacyTables(const QString &path, const std::function<void(TakeO
 
 } // namespace
 
-YenilemeKaynagi kaynakOku(const QString &path, const Database &working,
-                          const std::function<void(TakeOver &)> &watch)
+RefreshSource readRefreshSource(const QString &path, const Database &working,
+                                const std::function<void(TakeOver &)> &watch)
 {
     const QFileInfo file(path);
     if (!file.isFile()) {
@@ -73,7 +73,7 @@ YenilemeKaynagi kaynakOku(const QString &path, const Database &working,
     if (file.canonicalFilePath() == QFileInfo(working.path()).canonicalFilePath())
         throw DatabaseError(
             u"Bu dosya, çalışılan veri tabanının kendisi; başka bir dosya seçin."_s);
-    YenilemeKaynagi source{path, isOwnFile(path) ? ownTables(path) : legacyTables(path, watch)};
+    RefreshSource source{path, isOwnFile(path) ? ownTables(path) : legacyTables(path, watch)};
     const bool isRegistry =
         std::any_of(source.tables.begin(), source.tables.end(),
                     [](const TableDef &table) { return sameText(table.name, u"SirketKayit"); });

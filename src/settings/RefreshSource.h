@@ -9,7 +9,7 @@ class TakeOver;
 
 /// The tables of the database that the refresh goes by: a .kuyum, or a legacy
 /// .mdb, of which only what it has itself is told. The file is only read.
-struct YenilemeKaynagi
+struct RefreshSource
 {
     QString path;
     QList<TableDef> tables;
@@ -20,5 +20,5 @@ struct YenilemeKaynagi
 /// it runs. Throws DatabaseError: for a file that cannot be opened, with the
 /// engine's number; without a number, in Turkish, for one that is no database,
 /// a registry, written by a newer program, or the working database itself.
-YenilemeKaynagi kaynakOku(const QString &path, const Database &working,
-                          const std::function<void(TakeOver &)> &watch = {});
+RefreshSource readRefreshSource(const QString &path, const Database &working,
+                                const std::function<void(TakeOver &)> &watch = {});

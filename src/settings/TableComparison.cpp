@@ -1,4 +1,4 @@
-#include "TabloKarsilastirma.h"
+#include "TableComparison.h"
 
 #include "Database.h"
 #include "FieldTypes.h"
@@ -51,53 +51,53 @@ QString nameOfSame(const QStringList &names, const QString &wanted)
     return found == names.end() ? QString() : *found;
 }
 
-void compareFields(const TableDef &present, TabloDurumu &durum)
+void compareFields(const TableDef &present, TableComparison &comparison)
 {
-    for (const FieldDef &secilende : durum.secilen.fields) {
-        const FieldDef *burada = present.field(secilende.name);
-        if (burada == nullptr)
-            durum.yeniAlanlar.append(secilende);
-        else if (sameType(*burada, secilende))
+    for (const FieldDef &theirs : comparison.theirs.fields) {
+        const FieldDef *ours = present.field(theirs.name);
+        if (ours == nullptr)
+            comparison.newFields.append(theirs);
+        else if (sameType(*ours, theirs))
             continue;
-        else if (widened(*burada, secilende))
-            durum.genisleyen.append({present.name, *burada, secilende});
+        else if (widenedField(*ours, theirs))
+            comparison.widened.append({present.name, *ours, theirs});
         else
-            durum.kalan.append({present.name, *burada, secilende});
+            comparison.left.append({present.name, *ours, theirs});
     }
 }
 
 } // namespace
 
-QString TabloDurumu::text() const
+QString TableComparison::text() const
 {
-    return ad + (yeni ? u"-(YENI)"_s : u"-(ESKI)"_s);
+    return name + (isNew ? u"-(YENI)"_s : u"-(ESKI)"_s);
 }
 
-QList<TabloDurumu> Kontrol_Et(const Database &db, const QList<TableDef> &secilen)
+QList<TableComparison> Kontrol_Et(const Database &db, const QList<TableDef> &chosen)
 {
     const QStringList present = db.tableNames();
-    QList<TabloDurumu> tables;
-    for (const TableDef &table : secilen) {
-        TabloDurumu durum{.secilen = table};
+    QList<TableComparison> tables;
+    for (const TableDef &table : chosen) {
+        TableComparison comparison{.theirs = table};
         const QString same = nameOfSame(present, table.name);
-        durum.yeni = same.isEmpty();
-        durum.ad = durum.yeni ? table.name : same;
-        if (!durum.yeni)
-            compareFields(db.tableDef(same), durum);
-        tables.append(durum);
+        comparison.isNew = same.isEmpty();
+        comparison.name = comparison.isNew ? table.name : same;
+        if (!comparison.isNew)
+            compareFields(db.tableDef(same), comparison);
+        tables.append(comparison);
     }
     return tables;
 }
 
-std::optional<FieldDef> widened(const FieldDef &burada, const FieldDef &secilende)
+std::optional<FieldDef> widenedField(const FieldDef &ours, const FieldDef &theirs)
 {
-    const bool roomier = burada.type == secilende.type && room(secilende) > room(burada);
+    const bool roomier = ours.type == theirs.type && room(theirs) > room(ours);
     // A counter is the table's key and can be nothing else.
-    if (burada.counter || (!roomier && !holdsAllOf(secilende.type, burada.type)))
+    if (ours.counter || (!roomier && !holdsAllOf(theirs.type, ours.type)))
         return std::nullopt;
-    FieldDef field = burada;
-    field.type = secilende.type;
-    field.size = secilende.size;
+    FieldDef field = ours;
+    field.type = theirs.type;
+    field.size = theirs.size;
     return field;
 }
 

@@ -1,4 +1,4 @@
-#include "YeniVeritabani.h"
+#include "EmptyDatabase.h"
 
 #include "LegacyPath.h"
 #include "Oturum.h"
@@ -39,6 +39,9 @@ void refuseTaken(const Oturum &oturum, const QString &target)
 {
     if (sameFile(target, oturum.Veritabani->path()))
         throw DatabaseError(u"Bu dosya, çalışılan veri tabanının kendisi; başka bir ad verin."_s);
+    // Opened again, it would be taken for a file of the former program.
+    if (isLegacyPath(target))
+        throw DatabaseError(u"Yeni dosyaya .kuyum ile biten bir ad verin."_s);
     if (QFileInfo(target).isDir())
         throw DatabaseError(u"Bu bir klasör: "_s + QDir::toNativeSeparators(target));
     const QString registryFile = takenOverPath(oturum.kayitYolu);
@@ -131,7 +134,7 @@ void build(const QString &target, const Plan &plan, const MaintenanceProgress &p
 
 } // namespace
 
-void yeniVeritabani(Oturum &oturum, const QString &target, const MaintenanceProgress &progress)
+void makeEmptyDatabase(Oturum &oturum, const QString &target, const MaintenanceProgress &progress)
 {
     refuseTaken(oturum, target);
     const QString company = oturum.Veritabani->path();
