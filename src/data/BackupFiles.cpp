@@ -2,6 +2,7 @@
 
 #include "DatabaseError.h"
 #include "FileDigest.h"
+#include "ProcessLock.h"
 
 #include <algorithm>
 #include <array>
@@ -124,9 +125,7 @@ BackupPlace::BackupPlace(const QString &database)
         throw DatabaseError(u"Yedek klasörü açılamadı (yazma izni ya da diskte yer yok): "_s +
                             QDir::toNativeSeparators(m_folder));
     }
-    // One that was left by a program that was ended counts for nothing.
-    m_lock.setStaleLockTime(0);
-    if (!m_lock.tryLock()) {
+    if (!takeProcessLock(m_lock)) {
         if (m_lock.error() == QLockFile::LockFailedError)
             throw DatabaseError(u"Bu veri tabanının yedeği şu anda başka bir yerde alınıyor ya da "
                                 "geri yükleniyor."_s);

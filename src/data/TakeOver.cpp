@@ -1,5 +1,6 @@
 #include "TakeOver.h"
 
+#include "ProcessLock.h"
 #include "TakeOverStepProcess.h"
 #include "TakeOverSteps.h"
 
@@ -60,10 +61,8 @@ void TakeOver::run()
     m_cancelled = false;
     checkSource();
     checkTarget();
-    // One that was left by a program that was ended counts for nothing.
     QLockFile lock(m_part + u".kilit"_s);
-    lock.setStaleLockTime(0);
-    if (!lock.tryLock()) {
+    if (!takeProcessLock(lock)) {
         if (lock.error() == QLockFile::LockFailedError)
             throw DatabaseError(u"Bu dosya şu anda başka bir yerde aktarılıyor: "_s + m_target);
         throw DatabaseError(u"Hedef klasöre yazılamıyor (yazma izni ya da diskte yer yok): "_s +

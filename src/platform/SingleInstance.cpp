@@ -1,5 +1,7 @@
 #include "SingleInstance.h"
 
+#include "ProcessLock.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -21,8 +23,6 @@ QString SingleInstance::defaultLockPath()
 SingleInstance::SingleInstance(const QString &lockPath) : m_lock(lockPath)
 {
     QDir().mkpath(QFileInfo(lockPath).path());
-    // Only a dead process makes the lock stale, never its age.
-    m_lock.setStaleLockTime(0);
     // A folder that cannot be written is no reason to refuse the work.
-    m_otherCopyRuns = !m_lock.tryLock(0) && m_lock.error() == QLockFile::LockFailedError;
+    m_otherCopyRuns = !takeProcessLock(m_lock) && m_lock.error() == QLockFile::LockFailedError;
 }

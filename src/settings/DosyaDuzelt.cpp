@@ -43,7 +43,7 @@ QString RepairResult::text() const
         lines.append(u"SiparisD.Dotosayi bu dosyada sayaç değil (aynı numarayı taşıyan satırlar "
                      "var); sayaç ilerletilmedi."_s);
     }
-    lines.append(u"Düzenlemeden önceki dosyanın kopyası: "_s + QDir::toNativeSeparators(backup));
+    lines.append(u"Düzenlemeden önceki dosyanın kopyası:\n"_s + QDir::toNativeSeparators(backup));
     return lines.join(u'\n');
 }
 

@@ -224,10 +224,9 @@ void Dosya_Yenile::Combo_Doldur(const QList<TableDef> &chosen)
     m_ui->Tablolar->setCurrentRow(0);
     const ReportTable report = differences(tables);
     m_ui->Farklar->setTable(report);
-    tell(report.rows.isEmpty()
-             ? u"%1 tablo karşılaştırıldı, difference yok."_s.arg(tables.size())
-             : u"%1 tablo karşılaştırıldı, %2 difference var."_s.arg(tables.size())
-                   .arg(report.rows.size()));
+    tell(report.rows.isEmpty() ? u"%1 tablo karşılaştırıldı, fark yok."_s.arg(tables.size())
+                               : u"%1 tablo karşılaştırıldı, %2 fark var."_s.arg(tables.size())
+                                     .arg(report.rows.size()));
 }
 
 // The two commands

@@ -74,7 +74,7 @@ QString RefreshResult::text() const
         lines.resize(shown);
         lines.append(u"... ve %1 satır daha."_s.arg(more));
     }
-    lines.append(u"Yenilemeden önceki dosyanın kopyası: "_s + QDir::toNativeSeparators(backup));
+    lines.append(u"Yenilemeden önceki dosyanın kopyası:\n"_s + QDir::toNativeSeparators(backup));
     return lines.join(u'\n');
 }
 
