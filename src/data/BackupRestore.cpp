@@ -60,6 +60,8 @@ QString keepCurrent(const BackupPlace &place, const QString &database, const Wor
     try {
         // Takes back a save that was cut off, too.
         const std::unique_ptr<Database> db = Database::open(database);
+        // A save is short: who holds the file for longer works with it.
+        db->engine().run(u"PRAGMA busy_timeout = 500"_s);
         db->engine().run(u"BEGIN EXCLUSIVE"_s);
         db->engine().run(u"ROLLBACK"_s);
         return copyToBackup(*db, place.freePath(BackupKind::BeforeRestore), stage);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 
 /// How far a work is; false stops it.
 using WorkProgress = std::function<bool(int done, int total)>;
@@ -10,8 +11,9 @@ using WorkProgress = std::function<bool(int done, int total)>;
 class WorkStage
 {
 public:
-    WorkStage(const WorkProgress &progress, int from, int to)
-        : m_progress(progress), m_from(from), m_to(to)
+    WorkStage() = default; ///< of a work that nobody watches
+    WorkStage(WorkProgress progress, int from, int to)
+        : m_progress(std::move(progress)), m_from(from), m_to(to)
     {
     }
 
@@ -23,7 +25,7 @@ public:
 private:
     int at(double share) const { return m_from + int((m_to - m_from) * share); }
 
-    const WorkProgress &m_progress;
-    int m_from;
-    int m_to;
+    WorkProgress m_progress;
+    int m_from = 0;
+    int m_to = 0;
 };

@@ -1,20 +1,24 @@
+#include "FullDisk.h"
+#include "Integrity.h"
+#include "KilledProcess.h"
 #include "OrderFixture.h"
 #include "SiparisStore.h"
+#include "SqliteEngine.h"
 #include "TestRegistry.h"
 
-#include <QProcess>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
 
-/// The program dies in the middle of saving, at many points: what is on disk
-/// is one whole save, never a mixture and never nothing.
+/// The program dies in the middle of saving, at many points, or the disk gets
+/// full: what is on disk is one whole save, never a mixture and never nothing.
 class SaveKillTest : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void linesAreAllOldOrAllNew();
+    void aFullDiskLeavesTheOldLines();
 };
 
 constexpr int rowCount = 60;
@@ -32,6 +36,13 @@ static int makeLongOrder(OrderFixture &company)
     return siparis.Sipnum;
 }
 
+static void setNotes(Siparis &siparis, const QString &note)
+{
+    siparis.Aciklama = note;
+    for (SiparisSatiri &row : siparis.satirlar)
+        row.aciklama = note;
+}
+
 void SaveKillTest::linesAreAllOldOrAllNew()
 {
     OrderFixture company;
@@ -39,17 +50,12 @@ void SaveKillTest::linesAreAllOldOrAllNew()
     const int lineCount = int(company.lines(order).size());
     QCOMPARE(lineCount, 2 * rowCount); // a necklace and a ring in each row
 
-    constexpr int kills = 40;
-    for (int kill = 0; kill < kills; ++kill) {
-        QProcess saver;
-        saver.start(QStringLiteral(SAVE_LOOP), {company.path(), QString::number(order)});
-        QVERIFY(saver.waitForReadyRead(30000));
-        // A few milliseconds later each time, to meet it at another place.
-        QVERIFY(!saver.waitForFinished(kill));
-        saver.kill();
-        QVERIFY(saver.waitForFinished(30000));
-        const int told = saver.readAllStandardOutput().trimmed().split('\n').last().toInt();
-
+    constexpr qint64 severalSaves = 40000; // microseconds
+    for (int kill = 0; kill < killCount(); ++kill) {
+        const int told = killedWhileWorking(QStringLiteral(SAVE_LOOP),
+                                            {company.path(), QString::number(order)}, severalSaves)
+                             .last()
+                             .toInt();
         const QStringList notes = company.field(order, u"SipAck");
         QCOMPARE(notes.size(), lineCount);
         QCOMPARE(notes.count(notes.first()), lineCount);
@@ -59,11 +65,39 @@ void SaveKillTest::linesAreAllOldOrAllNew()
         // its header before its lines.
         QVERIFY(onDisk == told || onDisk == told + 1);
         QVERIFY(inHeader == onDisk || inHeader == onDisk + 1);
+        QCOMPARE(integrityFaults(company.oturum.Veritabani->engine()), QStringList());
         // The next save goes on from there.
         const SiparisStore store(company.oturum);
         Siparis siparis = *store.SiparisBul(order);
         QVERIFY(store.save(siparis));
     }
+}
+
+void SaveKillTest::aFullDiskLeavesTheOldLines()
+{
+    FullDisk disk;
+    OrderFixture company;
+    const int order = makeLongOrder(company);
+    const SiparisStore store(company.oturum);
+    Siparis siparis = *store.SiparisBul(order);
+    setNotes(siparis, u"yeni"_s);
+    int refused = 0;
+    for (qint64 room = 0;; ++room) {
+        disk.takeWrites(room);
+        try {
+            store.save(siparis);
+            break;
+        } catch (const DatabaseError &error) {
+            QVERIFY2(error.text().contains(u"yer kalmadı"_s), qPrintable(error.text()));
+        }
+        ++refused;
+        disk.empty();
+        QCOMPARE(company.field(order, u"SipAck"), QStringList(2 * rowCount, u"0"_s));
+        QCOMPARE(integrityFaults(company.oturum.Veritabani->engine()), QStringList());
+    }
+    QVERIFY(refused > 10);
+    QVERIFY(!disk.wasFull());
+    QCOMPARE(company.field(order, u"SipAck"), QStringList(2 * rowCount, u"yeni"_s));
 }
 
 KUYUM_TEST(SaveKillTest)

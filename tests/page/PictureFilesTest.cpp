@@ -1,12 +1,8 @@
 #include "PictureFiles.h"
+#include "FullDisk.h"
 #include "TestRegistry.h"
 
 #include <QtTest>
-
-#ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
-#endif
 
 using namespace Qt::StringLiterals;
 
@@ -44,31 +40,6 @@ QByteArray turnedJpeg(int width, int height, char orientation)
     segment += char(length & 0xff);
     return jpeg(width, height).insert(2, segment + exif);
 }
-
-#ifdef Q_OS_UNIX
-/// While it lives no file can be written beyond its first bytes.
-class FullDisk
-{
-public:
-    FullDisk() : m_signal(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        getrlimit(RLIMIT_FSIZE, &m_limit);
-        const rlimit small{1000, m_limit.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &small);
-    }
-    ~FullDisk()
-    {
-        setrlimit(RLIMIT_FSIZE, &m_limit);
-        std::signal(SIGXFSZ, m_signal);
-    }
-    FullDisk(const FullDisk &) = delete;
-    FullDisk &operator=(const FullDisk &) = delete;
-
-private:
-    rlimit m_limit = {};
-    void (*m_signal)(int);
-};
-#endif
 
 } // namespace
 
@@ -189,7 +160,7 @@ private Q_SLOTS:
         const QByteArray old = read(path);
         QString told;
         {
-            const FullDisk full;
+            const FileSizeLimit full(1000);
             try {
                 savePicture(QImage::fromData(jpeg(600, 600)), path);
             } catch (const std::runtime_error &error) {
