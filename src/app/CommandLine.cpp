@@ -40,6 +40,9 @@ constexpr Command commands[] = {
      "[--resimli [--resim KLASOR]] [--sipdur DURUM] [--uretdur DURUM]",
      uretimCommand, true},
     {u"sorgu", u"kuyum sorgu VERITABANI \"SELECT ...\"", sorguCommand},
+    {u"yedekle", u"kuyum yedekle VERITABANI", yedekleCommand},
+    {u"geriyukle", u"kuyum geriyukle VERITABANI YEDEK [--ozetsiz]", geriyukleCommand},
+    {u"denetle", u"kuyum denetle VERITABANI", denetleCommand},
     {u"demo", u"kuyum demo KLASOR [--olcek N]", demoCommand, true},
 };
 

@@ -48,4 +48,7 @@ int modelCommand(const QStringList &arguments);
 int raporCommand(const QStringList &arguments);
 int sorguCommand(const QStringList &arguments);
 int uretimCommand(const QStringList &arguments);
+int yedekleCommand(const QStringList &arguments);
+int geriyukleCommand(const QStringList &arguments);
+int denetleCommand(const QStringList &arguments);
 int demoCommand(const QStringList &arguments);

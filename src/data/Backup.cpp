@@ -149,12 +149,8 @@ void checkBackupFile(const QString &file, const QString &backup, const WorkStage
         throw DatabaseError(u"Yedek bozuk. (%1)"_s.arg(faults[0]));
     if (db->schemaVersion() > currentSchemaVersion)
         throw DatabaseError(u"Yedek, programın daha yeni bir sürümü ile yazılmış."_s);
-    for (const QString &table :
-         {u"Users"_s, u"Firma"_s, u"Model"_s, u"SiparisB"_s, u"SiparisD"_s}) {
-        if (!db->hasTable(table))
-            throw DatabaseError(
-                u"Bu dosya bir şirketin veri tabanı değil: \"%1\" tablosu yok."_s.arg(table));
-    }
+    if (!isCompany(*db))
+        throw DatabaseError(u"Bu dosya bir şirketin veri tabanı değil."_s);
 }
 
 void checkBackup(const QString &backup, const WorkProgress &progress)
@@ -168,12 +164,14 @@ void checkBackup(const QString &backup, const WorkProgress &progress)
     }
 }
 
-std::optional<BackupFile> newestGoodBackup(const QString &database)
+std::optional<BackupFile> newestGoodBackup(const QString &database, const WorkProgress &progress)
 {
     for (const BackupFile &backup : backups(database)) {
         try {
-            checkBackup(backup.path);
+            checkBackup(backup.path, progress);
             return backup;
+        } catch (const BackupCancelled &) {
+            throw;
         } catch (const DatabaseError &) {
             // An older one may be sound.
         }

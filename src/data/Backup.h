@@ -33,7 +33,8 @@ void checkBackup(const QString &backup, const WorkProgress &progress = {});
 
 /// The newest backup of the database that passes its check; nothing when there
 /// is none.
-std::optional<BackupFile> newestGoodBackup(const QString &database);
+std::optional<BackupFile> newestGoodBackup(const QString &database,
+                                           const WorkProgress &progress = {});
 
 /// Puts the backup in the place of the database, which nobody may have open
 /// (this process neither). The backup is checked first, and what it replaces

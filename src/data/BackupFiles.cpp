@@ -2,6 +2,7 @@
 
 #include "DatabaseError.h"
 #include "FileDigest.h"
+#include "Numbers.h"
 #include "ProcessLock.h"
 
 #include <algorithm>
@@ -82,6 +83,12 @@ const QString &momentFormat()
 QString backupKindText(BackupKind kind)
 {
     return QString::fromUtf16(nameOf(kind).text);
+}
+
+QString backupSizeText(qint64 bytes)
+{
+    constexpr double megabyte = 1024 * 1024;
+    return formatNumber(double(bytes) / megabyte, u"#,##0.0") + u" MB"_s;
 }
 
 QString backupFolder(const QString &database)

@@ -18,6 +18,9 @@ struct BackupFile
 /// How a kind is called on screens: "Günlük".
 QString backupKindText(BackupKind kind);
 
+/// A size as it is told on screens: "12.3 MB".
+QString backupSizeText(qint64 bytes);
+
 /// "yedek" beside the database.
 QString backupFolder(const QString &database);
 

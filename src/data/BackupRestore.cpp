@@ -90,6 +90,9 @@ void putInPlace(const QString &part, const QString &database)
             throw DatabaseError(u"Yarım kalmış kaydın dosyası silinemiyor: "_s +
                                 QDir::toNativeSeparators(companion));
     }
+    // Colleagues who may write the one may write the other.
+    if (QFileInfo::exists(database))
+        QFile::setPermissions(part, QFile::permissions(database));
     // QFile renames over no file, and removing it first would leave none.
     std::error_code failed;
     std::filesystem::rename(QFileInfo(part).filesystemAbsoluteFilePath(),

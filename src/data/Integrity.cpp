@@ -1,12 +1,16 @@
 #include "Integrity.h"
 
 #include "Backup.h"
+#include "Database.h"
 #include "Dialect.h"
 #include "SqliteEngine.h"
 
 #include <cmath>
+#include <condition_variable>
 #include <exception>
+#include <mutex>
 #include <sqlite3.h>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -85,6 +89,31 @@ QStringList integrityFaults(const SqliteEngine &engine, const WorkStage &stage)
         faults.append(error.text());
     }
     return faults == QStringList{u"ok"_s} ? QStringList() : faults;
+}
+
+void refuseDamaged(const Database &db, std::chrono::milliseconds limit)
+{
+    const SqliteEngine &engine = db.engine();
+    std::mutex mutex;
+    std::condition_variable_any ended;
+    // Within one table the engine asks nobody whether to go on, but it can be
+    // interrupted from another thread.
+    std::jthread watch([&](const std::stop_token &stop) {
+        std::unique_lock lock(mutex);
+        if (!ended.wait_for(lock, stop, limit, [] { return false; }) && !stop.stop_requested())
+            sqlite3_interrupt(engine.handle());
+    });
+    try {
+        QSqlQuery check = engine.run(u"PRAGMA quick_check(1)"_s);
+        if (engine.next(check) && check.value(0).toString() != "ok"_L1) {
+            throw DatabaseError(u"Veri tabanı dosyası bozuk. (%1)"_s.arg(check.value(0).toString()),
+                                DatabaseError::Cause::FileDamaged);
+        }
+    } catch (const DatabaseError &error) {
+        // Stopped: what was read is sound.
+        if (error.cause() == DatabaseError::Cause::FileDamaged)
+            throw;
+    }
 }
 
 QMap<QString, qint64> rowCounts(const SqliteEngine &engine)

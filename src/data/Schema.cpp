@@ -234,6 +234,13 @@ IndexDef freelyNamed(IndexDef index, const TableDef &table)
     return index;
 }
 
+bool isCompany(const Database &db)
+{
+    const QStringList needed = {u"Users"_s, u"Firma"_s, u"Model"_s, u"SiparisB"_s, u"SiparisD"_s};
+    return std::all_of(needed.begin(), needed.end(),
+                       [&db](const QString &table) { return db.hasTable(table); });
+}
+
 void createIndexAsAllowed(Database &db, const QString &table, IndexDef index)
 {
     try {

@@ -16,6 +16,10 @@ const QList<TableDef> &registryTables();
 /// The layout version this program writes.
 constexpr int currentSchemaVersion = 2;
 
+/// Whether the file holds a company, of whatever layout: users, customers,
+/// models and orders.
+bool isCompany(const Database &db);
+
 /// Adds the tables, fields and indexes of the description that the file lacks.
 /// What is there stays as it is. An index that the rows forbid to be unique is
 /// made without that.

@@ -4,6 +4,7 @@
 #include "SqliteEngine.h"
 
 #include <QDebug>
+#include <sqlite3.h>
 
 using namespace Qt::StringLiterals;
 
@@ -18,10 +19,12 @@ Transaction::~Transaction()
 {
     if (m_database == nullptr)
         return;
+    // The engine rolls back by itself after a full disk or an I/O error.
+    if (sqlite3_get_autocommit(m_database->engine().handle()) != 0)
+        return;
     try {
         m_database->engine().run(u"ROLLBACK"_s);
     } catch (const DatabaseError &error) {
-        // The engine rolls back by itself after a full disk or an I/O error.
         qWarning() << "rollback:" << error.text();
     }
 }

@@ -1,5 +1,6 @@
 #include "DatabaseOpening.h"
 
+#include "Integrity.h"
 #include "LegacyPath.h"
 #include "Messages.h"
 #include "TakeOverWindow.h"
@@ -19,6 +20,8 @@ std::unique_ptr<Database> openTakenOver(QWidget *parent, Messages &messages, con
     window.reset();
 
     std::unique_ptr<Database> db = open(openable.path);
+    constexpr std::chrono::milliseconds unnoticed(300);
+    refuseDamaged(*db, unnoticed);
     if (openable.legacyChanged) {
         messages.say(parent,
                      u"%1\n\nBu eski dosya aktarıldıktan sonra değiştirilmiş. O günden sonra eski "

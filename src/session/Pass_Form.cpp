@@ -1,8 +1,11 @@
 #include "Pass_Form.h"
 
+#include "Backup.h"
+#include "DamagedDatabase.h"
 #include "DatabaseOpening.h"
 #include "EntryControls.h"
 #include "Guarded.h"
+#include "LegacyPath.h"
 #include "Oturum.h"
 #include "RegistryPaths.h"
 #include "RegistryStore.h"
@@ -141,20 +144,37 @@ void Pass_Form::Sirket_Bul()
 
 bool Pass_Form::openDatabase(const QString &path)
 {
+    const QString database = takenOverPath(path);
+    // A legacy file would be taken over once more, as it was years ago.
+    if (database != path && !QFileInfo::exists(database) && !backups(database).isEmpty())
+        restore(database, u"Veri tabanı dosyası yerinde yok, ama yedekleri duruyor:"_s);
     try {
         m_oturum.Veritabani = openTakenOver(this, m_messages, path, openCompany);
         return true;
     } catch (const TakeOverCancelled &cancelled) {
         m_messages.say(this, cancelled.text(), MessageIcon::Information);
         return false;
-    } catch (const std::exception &error) {
+    } catch (const DatabaseError &error) {
         m_messages.say(this, m_oturum.DataYolu + u"  ,BULUNAMADI..."_s, MessageIcon::Information,
                        u"DATA YOLU HATASI"_s);
+        const bool missing = !QFileInfo(path).isFile();
+        const bool canBeReplaced = missing ? !backups(database).isEmpty()
+                                           : error.cause() == DatabaseError::Cause::FileDamaged;
+        if (canBeReplaced)
+            return restore(database,
+                           missing ? u"Veri tabanı dosyası yerinde yok:"_s : error.text()) &&
+                   openDatabase(path);
         // The file is there: the user learns why it did not open.
-        if (QFileInfo(path).isFile())
+        if (!missing)
             sayUnexpected(m_messages, this, error);
         return false;
     }
+}
+
+bool Pass_Form::restore(const QString &database, const QString &trouble)
+{
+    const std::optional<QString> backup = offerBackup(this, m_messages, database, trouble);
+    return backup.has_value() && restoreFromBackup(this, m_messages, database, *backup);
 }
 
 void Pass_Form::fillUsers()

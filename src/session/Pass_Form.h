@@ -36,6 +36,7 @@ private:
     void connectControls();
     void Sirket_Bul();
     bool openDatabase(const QString &path);
+    bool restore(const QString &database, const QString &trouble);
     void closeCompany();
     void fillUsers();
     void cutPassword();

@@ -1,6 +1,7 @@
 #include "StartUp.h"
 
 #include "AnaMenu.h"
+#include "DailyBackup.h"
 #include "Guarded.h"
 #include "LegacyPath.h"
 #include "Oturum.h"
@@ -46,6 +47,9 @@ std::unique_ptr<AnaMenu> startUp(const StartUp &start, bool otherCopyRuns)
         return nullptr;
     }
     if (!logIn(start))
+        return nullptr;
+    // Before anything of this day is written.
+    if (!backUpDaily(start.oturum, start.messages))
         return nullptr;
     auto menu = std::make_unique<AnaMenu>(start.oturum, start.messages, start.screens);
     menu->load(start.programFolder);

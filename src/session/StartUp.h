@@ -17,6 +17,7 @@ struct StartUp
     QString programFolder;
 };
 
-/// Logs in and makes the main menu, not yet shown. Null when the program has
+/// Logs in, backs the company up on its first start of a day, and makes the
+/// main menu, not yet shown. Null when the program has
 /// to end: another copy runs, there is no registry, or nobody logged in.
 std::unique_ptr<AnaMenu> startUp(const StartUp &start, bool otherCopyRuns);

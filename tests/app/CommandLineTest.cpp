@@ -1,6 +1,8 @@
 #include "BarcodeReader.h"
 #include "PdfReader.h"
 #include "SampleCompany.h"
+#include "Schema.h"
+#include "SingleInstance.h"
 #include "TestRegistry.h"
 
 #include <QProcess>
@@ -50,7 +52,12 @@ private:
     }
 
 private Q_SLOTS:
-    void initTestCase() { makeSampleCompany(m_database).reset(); }
+    void initTestCase()
+    {
+        // Where the running program keeps its lock: of this test alone.
+        qputenv("XDG_RUNTIME_DIR", m_folder.path().toUtf8());
+        makeSampleCompany(m_database).reset();
+    }
 
     void wrongWordsShowTheUsage_data()
     {
@@ -61,6 +68,9 @@ private Q_SLOTS:
         QTest::newRow("an empty registry name") << QStringList{u"--sirket"_s, QString()};
         QTest::newRow("a word too many") << QStringList{u"--sirket"_s, u"a"_s, u"b"_s};
         QTest::newRow("no query") << QStringList{u"sorgu"_s, m_database};
+        QTest::newRow("no database to back up") << QStringList{u"yedekle"_s};
+        QTest::newRow("no backup to restore") << QStringList{u"geriyukle"_s, m_database};
+        QTest::newRow("nothing to check") << QStringList{u"denetle"_s};
         QTest::newRow("no target") << QStringList{u"aktar"_s, m_database};
         QTest::newRow("a slip without a file") << QStringList{u"fis"_s, m_database, u"1"_s};
         QTest::newRow("an order that is no number")
@@ -336,6 +346,80 @@ private Q_SLOTS:
         const Outcome refused = draw(u"code39"_s, u"ı"_s);
         QCOMPARE(refused.exitCode, 1);
         QVERIFY2(refused.error.contains(u"\"ı\""_s), qPrintable(refused.error));
+    }
+
+    void aCompanyIsBackedUpCheckedAndRestored()
+    {
+        const Outcome made = kuyum({u"yedekle"_s, m_database});
+        QCOMPARE(made.exitCode, 0);
+        QVERIFY(made.output.contains(u"\nFirma: 2 kayıt\n"_s));
+        const QString backup = made.output.section(u'\n', 0, 0);
+        const QByteArray before = fileBytes();
+        openCompany(m_database)->execute(u"Delete From Firma"_s);
+
+        // The program is open.
+        {
+            const SingleInstance running;
+            const Outcome refused = kuyum({u"geriyukle"_s, m_database, backup});
+            QCOMPARE(refused.exitCode, 1);
+            QVERIFY2(refused.error.startsWith(u"Program açık."_s), qPrintable(refused.error));
+        }
+        const QString bare = m_folder.filePath(u"tasinan.kuyum"_s);
+        QVERIFY(QFile::copy(backup, bare));
+        const Outcome unsure = kuyum({u"geriyukle"_s, m_database, bare});
+        QCOMPARE(unsure.exitCode, 1);
+        QVERIFY2(unsure.error.contains(u"--ozetsiz"_s), qPrintable(unsure.error));
+        // One letter is another.
+        QVERIFY(QFile::copy(backup + u".sha256"_s, bare + u".sha256"_s));
+        QFile changed(bare);
+        QVERIFY(changed.open(QFile::ReadWrite));
+        changed.seek(changed.readAll().indexOf("Kuyumculuk"));
+        changed.putChar('X');
+        changed.close();
+        const Outcome refused = kuyum({u"geriyukle"_s, m_database, bare});
+        QCOMPARE(refused.exitCode, 1);
+        QVERIFY2(refused.error.contains(u"değişmiş"_s), qPrintable(refused.error));
+
+        const Outcome restored = kuyum({u"geriyukle"_s, m_database, backup});
+        QCOMPARE(restored.error, QString());
+        QCOMPARE(restored.exitCode, 0);
+        const QString kept = restored.output.section(u": "_s, 2).trimmed();
+        QVERIFY2(QFile::exists(kept), qPrintable(restored.output));
+        QCOMPARE(kuyum({u"sorgu"_s, m_database, u"Select Count(*) As N From Firma"_s}).output,
+                 u"\"N\"\n2\n"_s);
+    }
+
+    void theCheckTellsDanglingCodesEmptyFieldsAndCounts()
+    {
+        const QString path = m_folder.filePath(u"denet.kuyum"_s);
+        {
+            const std::unique_ptr<Database> db = makeSampleCompany(path);
+            db->execute(u"Delete From Renkler Where RenkNo = 'SR'"_s);
+            db->execute(u"Update Firma Set UlkeID = 77 Where Firkod = 10"_s);
+            db->execute(u"Update Firma Set UlkeID = 0, Yetkili = null Where Firkod = 20"_s);
+        }
+        const Outcome checked = kuyum({u"denetle"_s, path});
+        QCOMPARE(checked.exitCode, 0);
+        const QStringList lines = checked.output.split(u'\n');
+        QCOMPARE(lines.first(), u"Dosya sağlam."_s);
+        QVERIFY2(lines.contains(u"  Firma.UlkeID -> Ulkeler.ID: 1 kayıt, 1 ayrı kod: 77 (1)"_s),
+                 qPrintable(checked.output));
+        QVERIFY2(
+            lines.contains(u"  Katalog.katno1 -> Model.Model_ID: 1 kayıt, 1 ayrı kod: 99 (1)"_s),
+            qPrintable(checked.output));
+        QVERIFY2(checked.output.contains(u"  SiparisD.Siprenk -> Renkler.RenkNo: "_s),
+                 qPrintable(checked.output));
+        QVERIFY2(!checked.output.contains(u"SiparisB.SipFirkod"_s), qPrintable(checked.output));
+        QVERIFY2(lines.contains(u"  Firma.Yetkili: 2 kayıt"_s), qPrintable(checked.output));
+        // An index that contradicts its table.
+        QFile file(path);
+        QVERIFY(file.open(QFile::ReadWrite));
+        file.seek(file.readAll().lastIndexOf("Kuyumculuk"));
+        file.putChar('X');
+        file.close();
+        const Outcome damaged = kuyum({u"denetle"_s, path});
+        QCOMPARE(damaged.exitCode, 1);
+        QVERIFY2(damaged.output.startsWith(u"DOSYA BOZUK:"_s), qPrintable(damaged.output));
     }
 
     void aLegacyFileIsTakenOverOnce()
