@@ -47,12 +47,13 @@ QString baseName(const QString &database)
 }
 
 /// BASE-2026-11-23-071500-WORD.kuyum, and -2, -3 ... for more of one second;
-/// what follows the name is the caller's pattern.
+/// what follows the name is the caller's pattern. The registry tells a database
+/// without regard to case, and one that is gone has no other spelling to go by.
 QRegularExpression namePattern(const QString &database, const QString &word, const QString &rest)
 {
     return QRegularExpression(QRegularExpression::anchoredPattern(
-        QRegularExpression::escape(baseName(database)) +
-        u"-(\\d{4}-\\d{2}-\\d{2}-\\d{6})-(%1)(?:-(\\d+))?\\.kuyum(?:%2)"_s.arg(word, rest)));
+        u"(?i:"_s + QRegularExpression::escape(baseName(database)) +
+        u")-(\\d{4}-\\d{2}-\\d{2}-\\d{6})-(%1)(?:-(\\d+))?\\.kuyum(?:%2)"_s.arg(word, rest)));
 }
 
 QString kindPattern()
@@ -78,6 +79,31 @@ const QString &momentFormat()
     return format;
 }
 
+struct NumberedBackup
+{
+    BackupFile file;
+    int number; ///< of several of one second; 0 is the first
+};
+
+QList<NumberedBackup> numberedBackups(const QString &database)
+{
+    const QRegularExpression pattern = namePattern(database, kindPattern(), {});
+    QList<NumberedBackup> found;
+    const QDir folder(backupFolder(database));
+    for (const QFileInfo &file : folder.entryInfoList(QDir::Files | QDir::Hidden)) {
+        const QRegularExpressionMatch match = pattern.match(file.fileName());
+        const QDateTime made = QDateTime::fromString(match.captured(1), momentFormat());
+        if (match.hasMatch() && made.isValid()) {
+            found.append({{file.filePath(), kindOf(match.captured(2)), made, file.size()},
+                          match.captured(3).toInt()});
+        }
+    }
+    std::sort(found.begin(), found.end(), [](const NumberedBackup &a, const NumberedBackup &b) {
+        return std::tie(a.file.made, a.number) > std::tie(b.file.made, b.number);
+    });
+    return found;
+}
+
 } // namespace
 
 QString backupKindText(BackupKind kind)
@@ -98,23 +124,9 @@ QString backupFolder(const QString &database)
 
 QList<BackupFile> backups(const QString &database)
 {
-    const QRegularExpression pattern = namePattern(database, kindPattern(), {});
-    QList<std::pair<BackupFile, int>> found;
-    const QDir folder(backupFolder(database));
-    for (const QFileInfo &file : folder.entryInfoList(QDir::Files | QDir::Hidden)) {
-        const QRegularExpressionMatch match = pattern.match(file.fileName());
-        const QDateTime made = QDateTime::fromString(match.captured(1), momentFormat());
-        if (match.hasMatch() && made.isValid()) {
-            found.append({{file.filePath(), kindOf(match.captured(2)), made, file.size()},
-                          match.captured(3).toInt()});
-        }
-    }
-    std::sort(found.begin(), found.end(), [](const auto &a, const auto &b) {
-        return std::tie(a.first.made, a.second) > std::tie(b.first.made, b.second);
-    });
     QList<BackupFile> result;
-    for (const auto &file : found)
-        result.append(file.first);
+    for (const NumberedBackup &backup : numberedBackups(database))
+        result.append(backup.file);
     return result;
 }
 
@@ -165,8 +177,10 @@ QString BackupPlace::freePath(const QString &word) const
     const QString moment = now.toString(momentFormat());
     // Numbered over all kinds, so that those of one second keep their order.
     int number = 1;
-    for (const BackupFile &backup : backups(m_database))
-        number += backup.made.toString(momentFormat()) == moment ? 1 : 0;
+    for (const NumberedBackup &backup : numberedBackups(m_database)) {
+        if (backup.file.made.toString(momentFormat()) == moment)
+            number = qMax(number, qMax(1, backup.number) + 1);
+    }
     const QString stem = u"%1-%2-%3"_s.arg(baseName(m_database), moment, word);
     const auto path = [&] {
         return QDir(m_folder).filePath(number > 1 ? stem + u'-' + QString::number(number) + ending

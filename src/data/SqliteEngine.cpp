@@ -75,8 +75,8 @@ DatabaseError::Cause causeOf(int code)
                         code & withoutDetail);
 }
 
-/// SQLite takes a file without a byte for a new database, and would fill the
-/// place of a lost company with empty tables.
+/// SQLite takes a file without a byte, or with a single one, for a new database,
+/// and would fill the place of a lost company with empty tables.
 void refuseWhatHoldsNothing(const QString &path)
 {
     const QFileInfo file(path);
@@ -84,8 +84,9 @@ void refuseWhatHoldsNothing(const QString &path)
         throw DatabaseError(u"Dosya bulunamadı: "_s + path, DatabaseError::Cause::FileMissing,
                             DatabaseError::cannotOpen);
     }
-    if (file.size() == 0)
-        throw DatabaseError(u"Veri tabanı dosyası boş: "_s + path,
+    constexpr qint64 smallestDatabase = 512;
+    if (file.size() < smallestDatabase)
+        throw DatabaseError(u"Veri tabanı dosyası boş ya da yarım: "_s + path,
                             DatabaseError::Cause::FileDamaged);
 }
 

@@ -88,7 +88,7 @@ void BackupHardshipTest::init()
 void BackupHardshipTest::aKilledBackupIsWholeOrNone()
 {
     const QString program = QStringLiteral(BACKUP_WORK);
-    const qint64 time = workingTime(program, {company()}) * 5 / 4; // its end, too
+    const qint64 time = workingTime(program, {company()}) * 3 / 2; // its end, too
     for (int kill = 0; kill < killCount(); ++kill) {
         const QList<QByteArray> told = killedWhileWorking(program, {company()}, time);
         const QList<BackupFile> made = backups(company());
@@ -149,7 +149,7 @@ void BackupHardshipTest::aKilledRestoreIsWhollyDoneOrNotAtAll()
             write(company() + u"-journal"_s, journal);
     };
     begin();
-    const qint64 time = workingTime(program, {company(), backup}) * 5 / 4; // its end, too
+    const qint64 time = workingTime(program, {company(), backup}) * 3 / 2; // its end, too
     int done = 0;
     const int count = (killCount() + 2) / 3;
     for (int kill = 0; kill < count; ++kill) {

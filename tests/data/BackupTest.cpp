@@ -275,7 +275,7 @@ void BackupTest::restoresOverADamagedOrMissingOne()
     m_db.reset();
     const QByteArray whole = bytes(company());
     for (const QByteArray &damaged :
-         {QByteArray(), QByteArray(5000, 'x'), whole.first(whole.size() / 2)}) {
+         {QByteArray(), QByteArray(1, 'x'), QByteArray(5000, 'x'), whole.first(whole.size() / 2)}) {
         write(company(), damaged);
         try {
             openCompany(company());
@@ -334,7 +334,7 @@ void BackupTest::noOldJournalIsPlayedIntoTheRestoredFile()
 void BackupTest::refusesWhatIsNoBackupOfACompany()
 {
     createRegistry(path(u"sirket.kuyum"_s));
-    write(path(u"metin.kuyum"_s), "bu bir veri tabanı değil");
+    write(path(u"metin.kuyum"_s), QByteArray("bu bir veri tabanı değil ").repeated(50));
     const std::unique_ptr<Database> newer = makeSampleCompany(path(u"yeni.kuyum"_s));
     newer->setSchemaVersion(currentSchemaVersion + 1);
     makeSampleCompany(path(u"yarim.kuyum"_s));

@@ -77,14 +77,14 @@ private:
                 .icon = MessageIcon::Critical,
                 .defaultAnswer = MessageAnswer::No};
     }
-    QString offer(const QString &trouble, const QString &backup) const
+    QString offer(const QString &trouble, const QString &backup, const QString &database) const
     {
         for (const BackupFile &file : backups(company())) {
             if (file.path == backup) {
                 return u"%1\n%2\n\nDenetimden geçen en yeni yedek:\n%3\n%4, %5, %6\n\nBu yedek "
                        u"geri "
                        "yüklensin mi? Yedekten sonra girilenler onda yoktur; şimdiki dosya "
-                       "silinmez, saklanır."_s.arg(trouble, company(), QFileInfo(backup).fileName(),
+                       "silinmez, saklanır."_s.arg(trouble, database, QFileInfo(backup).fileName(),
                                                    backupKindText(file.kind),
                                                    file.made.toString(u"dd.MM.yyyy HH:mm"_s),
                                                    backupSizeText(file.size));
@@ -95,7 +95,7 @@ private:
     QString keptDamaged() const
     {
         const QDir folder(backupFolder(company()));
-        return folder.filePath(folder.entryList({u"*-bozuk.kuyum"_s}).value(0));
+        return folder.filePath(folder.entryList({u"*-bozuk*.kuyum"_s}).value(0));
     }
 
     std::unique_ptr<TestCompanies> m_companies;
@@ -163,7 +163,7 @@ void BackupStartTest::damageFoundByTheDaysBackup()
     Oturum oturum = m_companies->loggedIn(u"Admin"_s, 1, {2012, 6, 1});
     const QString text = offer(u"Veri tabanı dosyası bozuk, yedeği alınmadı. (row 1 missing from "
                                "index Firma.ix.FirAdi)"_s,
-                               good);
+                               good, company());
     messages.expect(question(text, MessageAnswer::No));
     QVERIFY(backUpDaily(oturum, messages));
     messages.verify();
@@ -184,7 +184,7 @@ void BackupStartTest::aDamagedCompanyIsOfferedItsNewestGoodBackup_data()
 {
     QTest::addColumn<QString>("damage");
     QTest::addColumn<QString>("trouble");
-    QTest::newRow("empty") << u"empty"_s << u"Veri tabanı dosyası boş: "_s;
+    QTest::newRow("empty") << u"empty"_s << u"Veri tabanı dosyası boş ya da yarım: "_s;
     QTest::newRow("no database") << u"text"_s
                                  << u"Veri tabanı dosyası bozuk. (file is not a database)"_s;
     QTest::newRow("cut off") << u"half"_s
@@ -196,6 +196,9 @@ void BackupStartTest::aDamagedCompanyIsOfferedItsNewestGoodBackup()
 {
     QFETCH(QString, damage);
     QFETCH(QString, trouble);
+    // What is gone has the name that the registry tells.
+    const QString database =
+        damage == u"gone"_s ? m_companies->path(u"Database/BIR.kuyum"_s) : company();
     const QString good = makeCopy();
     const QString changed = makeCopy();
     QByteArray content = bytes(changed);
@@ -218,19 +221,19 @@ void BackupStartTest::aDamagedCompanyIsOfferedItsNewestGoodBackup()
     const auto notFound = ScriptedMessages::Expected{
         .text = u"c:\\database\\BIR.kuyum  ,BULUNAMADI..."_s, .title = u"DATA YOLU HATASI"_s};
     messages.expect(notFound);
-    messages.expect(question(offer(trouble, good), MessageAnswer::No));
+    messages.expect(question(offer(trouble, good, database), MessageAnswer::No));
     QVERIFY(form.load());
     messages.verify();
     QVERIFY(oturum.Veritabani == nullptr);
 
     messages.expect(notFound);
-    messages.expect(question(offer(trouble, good), MessageAnswer::Yes));
+    messages.expect(question(offer(trouble, good, database), MessageAnswer::Yes));
     form.show();
     auto *Srkkod = form.findChild<QComboBox *>(u"Srkkod"_s);
     Srkkod->setFocus();
     Q_EMIT Srkkod->activated(Srkkod->currentIndex());
     messages.verify();
-    QCOMPARE(bytes(company()), bytes(good));
+    QCOMPARE(bytes(database), bytes(good));
     QVERIFY(oturum.Veritabani != nullptr);
     QVERIFY(form.findChild<QComboBox *>(u"Kullanici"_s)->count() > 1);
     QCOMPARE(messages.told.size(), 1);
@@ -238,7 +241,7 @@ void BackupStartTest::aDamagedCompanyIsOfferedItsNewestGoodBackup()
 
 void BackupStartTest::noGoodBackupIsSaid()
 {
-    write(company(), "x");
+    write(company(), QByteArray(600, 'x'));
     RestoreMessages messages;
     Oturum oturum;
     oturum.kayitYolu = m_companies->registry();
@@ -251,7 +254,7 @@ void BackupStartTest::noGoodBackupIsSaid()
          .icon = MessageIcon::Critical});
     QVERIFY(form.load());
     messages.verify();
-    QCOMPARE(bytes(company()), "x");
+    QCOMPARE(bytes(company()), QByteArray(600, 'x'));
 }
 
 void BackupStartTest::aMissingCompanyIsNotTakenOverAgain()
@@ -265,9 +268,9 @@ void BackupStartTest::aMissingCompanyIsNotTakenOverAgain()
     Oturum oturum;
     oturum.kayitYolu = m_companies->registry();
     Pass_Form form(oturum, messages);
-    messages.expect(
-        question(offer(u"Veri tabanı dosyası yerinde yok, ama yedekleri duruyor:"_s, good),
-                 MessageAnswer::Yes));
+    messages.expect(question(
+        offer(u"Veri tabanı dosyası yerinde yok, ama yedekleri duruyor:"_s, good, company()),
+        MessageAnswer::Yes));
     // It has no stamp of a take-over, so the legacy file is not looked at.
     QVERIFY(form.load());
     messages.verify();
