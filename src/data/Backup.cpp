@@ -41,7 +41,7 @@ private:
     void end()
     {
         try {
-            m_engine.run(u"ROLLBACK"_s);
+            m_engine.run(u"COMMIT"_s);
         } catch (const DatabaseError &error) {
             qWarning() << "end of reading:" << error.text();
         }
