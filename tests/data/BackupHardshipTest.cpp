@@ -1,4 +1,5 @@
 #include "Backup.h"
+#include "FileBytes.h"
 #include "FullDisk.h"
 #include "Integrity.h"
 #include "KilledProcess.h"
@@ -32,17 +33,6 @@ private:
     QStringList inFolder(const QString &folder = {}) const
     {
         return QDir(path(folder)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
-    static QByteArray bytes(const QString &file)
-    {
-        QFile source(file);
-        return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
-    }
-    static void write(const QString &file, const QByteArray &content)
-    {
-        QFile target(file);
-        QVERIFY(target.open(QIODevice::WriteOnly));
-        QCOMPARE(target.write(content), content.size());
     }
     static void addCustomers(Database &db, int first, int count)
     {
@@ -126,27 +116,27 @@ void BackupHardshipTest::aKilledRestoreIsWhollyDoneOrNotAtAll()
     const QString made = makeBackup(*db, BackupKind::Manual);
     QVERIFY(QFile::rename(made, backup));
     QVERIFY(QFile::rename(made + u".sha256"_s, backup + u".sha256"_s));
-    const QByteArray restored = bytes(backup);
+    const QByteArray restored = fileBytes(backup);
 
     addCustomers(*db, 9000, 10);
     db->engine().run(u"PRAGMA cache_size = 5"_s);
     db->engine().run(u"BEGIN IMMEDIATE"_s);
     addCustomers(*db, 10000, 1000);
     const QByteArray journal =
-        state == u"journal"_s ? bytes(company() + u"-journal"_s) : QByteArray();
-    QByteArray old = bytes(company());
+        state == u"journal"_s ? fileBytes(company() + u"-journal"_s) : QByteArray();
+    QByteArray old = fileBytes(company());
     if (state != u"journal"_s) {
         db->engine().run(u"ROLLBACK"_s);
-        old = state == u"damaged"_s ? bytes(company()).chopped(5000) : bytes(company());
+        old = state == u"damaged"_s ? fileBytes(company()).chopped(5000) : fileBytes(company());
     }
     db.reset();
 
     const QString program = QStringLiteral(BACKUP_WORK);
     const auto begin = [&] {
         QDir(path(u"yedek"_s)).removeRecursively();
-        write(company(), old);
+        writeFile(company(), old);
         if (!journal.isEmpty())
-            write(company() + u"-journal"_s, journal);
+            writeFile(company() + u"-journal"_s, journal);
     };
     begin();
     const qint64 time = workingTime(program, {company(), backup}) * 3 / 2; // its end, too
@@ -155,20 +145,20 @@ void BackupHardshipTest::aKilledRestoreIsWhollyDoneOrNotAtAll()
     for (int kill = 0; kill < count; ++kill) {
         begin();
         const QList<QByteArray> told = killedWhileWorking(program, {company(), backup}, time);
-        if (bytes(company()) == restored) {
+        if (fileBytes(company()) == restored) {
             ++done;
             QVERIFY(!QFileInfo::exists(company() + u"-journal"_s));
             const QStringList kept = QDir(path(u"yedek"_s)).entryList({u"*.kuyum"_s});
             QCOMPARE(kept.size(), 1);
             const QString replaced = path(u"yedek/"_s + kept.first());
             if (state == u"damaged"_s)
-                QCOMPARE(bytes(replaced), old);
+                QCOMPARE(fileBytes(replaced), old);
             else
                 QCOMPARE(customers(replaced), m_customers + 10);
         } else {
             QVERIFY(told.size() < 2);
             if (state == u"damaged"_s)
-                QCOMPARE(bytes(company()), old);
+                QCOMPARE(fileBytes(company()), old);
             else
                 QCOMPARE(customers(company()), m_customers + 10);
         }
@@ -211,7 +201,7 @@ void BackupHardshipTest::aFullDiskReplacesNothing()
         backup = makeBackup(*db, BackupKind::Manual);
         addCustomers(*db, 9000, 1);
     }
-    const QByteArray old = bytes(company());
+    const QByteArray old = fileBytes(company());
     const auto verifyRefused = [&] {
         try {
             restoreBackup(company(), backup);
@@ -219,7 +209,7 @@ void BackupHardshipTest::aFullDiskReplacesNothing()
         } catch (const DatabaseError &error) {
             QVERIFY2(error.text().contains(u"isk"_s), qPrintable(error.text()));
         }
-        QCOMPARE(bytes(company()), old);
+        QCOMPARE(fileBytes(company()), old);
         QCOMPARE(inFolder(), QStringList{u"atolye.kuyum"_s});
         QCOMPARE(backups(company()).size(), 1);
         verifyOnlyBackups();

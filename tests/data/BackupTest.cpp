@@ -1,4 +1,5 @@
 #include "Backup.h"
+#include "FileBytes.h"
 #include "SampleCompany.h"
 #include "Schema.h"
 #include "SqliteEngine.h"
@@ -36,17 +37,6 @@ private:
     QStringList inFolder(const QString &folder = {}) const
     {
         return QDir(path(folder)).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-    }
-    static QByteArray bytes(const QString &file)
-    {
-        QFile source(file);
-        return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
-    }
-    static void write(const QString &file, const QByteArray &content)
-    {
-        QFile target(file);
-        QVERIFY(target.open(QIODevice::WriteOnly));
-        QCOMPARE(target.write(content), content.size());
     }
     static void flip(const QString &file, qint64 place)
     {
@@ -107,8 +97,8 @@ void BackupTest::aBackupIsTheDatabaseAtThatMoment()
     QVERIFY(std::is_sorted(told.begin(), told.end()));
     QCOMPARE(told.last(), 1000);
     // What sha256sum -c reads.
-    const QByteArray sum = QCryptographicHash::hash(bytes(backup), QCryptographicHash::Sha256);
-    QCOMPARE(bytes(backup + u".sha256"_s),
+    const QByteArray sum = QCryptographicHash::hash(fileBytes(backup), QCryptographicHash::Sha256);
+    QCOMPARE(fileBytes(backup + u".sha256"_s),
              sum.toHex() + "  " + QFileInfo(backup).fileName().toUtf8() + '\n');
 }
 
@@ -151,7 +141,7 @@ void BackupTest::whatIsOldGoesButNeverTheNewest()
                                  u"atolye-2-2001-01-01-120000-gunluk.kuyum"_s,
                                  u"atolye-2001-01-01-120000-gunluk.kuyum.yedek"_s};
     for (const QString &name : foreign)
-        write(path(u"yedek/"_s + name), "x");
+        writeFile(path(u"yedek/"_s + name), "x");
 
     makeBackup(*m_db, BackupKind::Daily);
     QCOMPARE(backups(company()).size(), 3); // two of today and the newest old one
@@ -173,11 +163,11 @@ void BackupTest::whatAnEndedProcessLeftIsRemoved()
     for (const QString &name :
          {u"gunluk.kuyum.part"_s, u"elle-2.kuyum.part-journal"_s, u"gunluk.kuyum.sha256"_s,
           u"gunluk.kuyum.sha256.aBcDeF"_s, u"bozuk.kuyum-journal.part.aBcDeF"_s})
-        write(path(u"yedek/atolye-2026-01-01-120000-"_s + name), "x");
+        writeFile(path(u"yedek/atolye-2026-01-01-120000-"_s + name), "x");
     const QStringList others = {u"atolye-2-2026-01-01-120000-gunluk.kuyum.part"_s,
                                 u"atolye-2026-01-01-120000-gunluk.kuyum.benden"_s};
     for (const QString &name : others)
-        write(path(u"yedek/"_s + name), "x");
+        writeFile(path(u"yedek/"_s + name), "x");
     QVERIFY(backups(company()).isEmpty());
     const QString backup = makeBackup(*m_db, BackupKind::Daily);
     QStringList left = others + QStringList{QFileInfo(backup).fileName(),
@@ -209,7 +199,7 @@ void BackupTest::aBusyOrDamagedDatabaseGivesNoBackup()
     }
     // An index that contradicts its table: every row can still be read.
     m_db.reset();
-    flip(company(), bytes(company()).lastIndexOf("Kuyumculuk"));
+    flip(company(), fileBytes(company()).lastIndexOf("Kuyumculuk"));
     m_db = openCompany(company());
     try {
         makeBackup(*m_db, BackupKind::Daily);
@@ -226,7 +216,7 @@ void BackupTest::anyChangedByteIsNoticed()
     m_db->execute(u"Delete From SiparisD"_s); // leaves free pages
     const QString backup = makeBackup(*m_db, BackupKind::Manual);
     checkBackup(backup);
-    const QByteArray whole = bytes(backup);
+    const QByteArray whole = fileBytes(backup);
     QList<qsizetype> places = {
         0, 20, 60, 100, 4096, whole.indexOf("Admin"), whole.size() / 2, whole.size() - 1};
     for (int i = 0; i < 40; ++i)
@@ -240,7 +230,7 @@ void BackupTest::anyChangedByteIsNoticed()
     checkBackup(backup);
     QVERIFY(QFile::resize(backup, whole.size() - 4096));
     QVERIFY(!refusal([&] { checkBackup(backup); }).isEmpty());
-    write(backup, whole);
+    writeFile(backup, whole);
     flip(backup + u".sha256"_s, 5);
     QVERIFY(!refusal([&] { checkBackup(backup); }).isEmpty());
 }
@@ -252,7 +242,7 @@ void BackupTest::restoresAndKeepsTheReplacedOne()
     addCustomer(990);
     m_db.reset();
     const QString kept = restoreBackup(company(), backup);
-    QCOMPARE(bytes(company()), bytes(backup));
+    QCOMPARE(fileBytes(company()), fileBytes(backup));
     QCOMPARE(customers(company()), before);
     QCOMPARE(customers(kept), before + 1);
     checkBackup(kept);
@@ -273,10 +263,10 @@ void BackupTest::restoresOverADamagedOrMissingOne()
 {
     const QString backup = makeBackup(*m_db, BackupKind::Manual);
     m_db.reset();
-    const QByteArray whole = bytes(company());
+    const QByteArray whole = fileBytes(company());
     for (const QByteArray &damaged :
          {QByteArray(), QByteArray(1, 'x'), QByteArray(5000, 'x'), whole.first(whole.size() / 2)}) {
-        write(company(), damaged);
+        writeFile(company(), damaged);
         try {
             openCompany(company());
             QFAIL("damage was not noticed");
@@ -284,13 +274,13 @@ void BackupTest::restoresOverADamagedOrMissingOne()
             QCOMPARE(error.cause(), DatabaseError::Cause::FileDamaged);
         }
         const QString kept = restoreBackup(company(), newestGoodBackup(company())->path);
-        QCOMPARE(bytes(kept), damaged);
+        QCOMPARE(fileBytes(kept), damaged);
         QVERIFY(kept.contains(u"-bozuk"_s));
-        QCOMPARE(bytes(company()), bytes(backup));
+        QCOMPARE(fileBytes(company()), fileBytes(backup));
     }
     QVERIFY(QFile::remove(company()));
     QCOMPARE(restoreBackup(company(), backup), QString());
-    QCOMPARE(bytes(company()), bytes(backup));
+    QCOMPARE(fileBytes(company()), fileBytes(backup));
     QCOMPARE(backups(company()).size(), 1); // a damaged one is no backup
 }
 
@@ -304,41 +294,41 @@ void BackupTest::noOldJournalIsPlayedIntoTheRestoredFile()
     m_db->engine().run(u"BEGIN IMMEDIATE"_s);
     for (int i = 0; i < 2000; ++i)
         addCustomer(5000 + i);
-    const QByteArray halfSaved = bytes(company());
-    const QByteArray journal = bytes(company() + u"-journal"_s);
+    const QByteArray halfSaved = fileBytes(company());
+    const QByteArray journal = fileBytes(company() + u"-journal"_s);
     QVERIFY(!journal.isEmpty());
     m_db.reset();
     const auto cutOff = [&](const QByteArray &content) {
-        write(company(), content);
-        write(company() + u"-journal"_s, journal);
+        writeFile(company(), content);
+        writeFile(company() + u"-journal"_s, journal);
     };
 
     cutOff(halfSaved);
     const QString kept = restoreBackup(company(), backup);
-    QCOMPARE(bytes(company()), bytes(backup));
+    QCOMPARE(fileBytes(company()), fileBytes(backup));
     QCOMPARE(inFolder(), QStringList{u"atolye.kuyum"_s});
     QCOMPARE(customers(kept), before); // the save was taken back first
     // The journal of a file that is gone, and of one that is damaged.
     cutOff(QByteArray());
     const QString damaged = restoreBackup(company(), backup);
-    QCOMPARE(bytes(damaged + u"-journal"_s), journal);
+    QCOMPARE(fileBytes(damaged + u"-journal"_s), journal);
     QCOMPARE(customers(company()), before);
-    QCOMPARE(bytes(company()), bytes(backup));
+    QCOMPARE(fileBytes(company()), fileBytes(backup));
     cutOff(QByteArray());
     QVERIFY(QFile::remove(company()));
     restoreBackup(company(), backup);
     QCOMPARE(customers(company()), before);
-    QCOMPARE(bytes(company()), bytes(backup));
+    QCOMPARE(fileBytes(company()), fileBytes(backup));
 }
 
 void BackupTest::refusesWhatIsNoBackupOfACompany()
 {
     createRegistry(path(u"sirket.kuyum"_s));
-    write(path(u"metin.kuyum"_s), QByteArray("bu bir veri tabanı değil ").repeated(50));
+    writeFile(path(u"metin.kuyum"_s), QByteArray("bu bir veri tabanı değil ").repeated(50));
     const std::unique_ptr<Database> newer = makeSampleCompany(path(u"yeni.kuyum"_s));
     newer->setSchemaVersion(currentSchemaVersion + 1);
     makeSampleCompany(path(u"yarim.kuyum"_s));
-    write(path(u"yarim.kuyum-journal"_s), "x");
+    writeFile(path(u"yarim.kuyum-journal"_s), "x");
     const QList<std::pair<QString, QString>> cases = {
         {u"sirket.kuyum"_s, u"şirketin veri tabanı değil"_s},
         {u"metin.kuyum"_s, u"bozuk"_s},
@@ -346,21 +336,21 @@ void BackupTest::refusesWhatIsNoBackupOfACompany()
         {u"yarim.kuyum"_s, u"yarım kalmış"_s},
         {u"yok.kuyum"_s, u"bulunamadı"_s}};
     m_db.reset();
-    const QByteArray before = bytes(company());
+    const QByteArray before = fileBytes(company());
     for (const auto &[name, reason] : cases) {
         QVERIFY2(refusal([&] { checkBackup(path(name)); }).contains(reason), qPrintable(name));
         QVERIFY2(!refusal([&] { restoreBackup(company(), path(name)); }).isEmpty(),
                  qPrintable(name));
     }
-    QCOMPARE(bytes(company()), before);
-    QCOMPARE(bytes(path(u"yarim.kuyum-journal"_s)), "x");
+    QCOMPARE(fileBytes(company()), before);
+    QCOMPARE(fileBytes(path(u"yarim.kuyum-journal"_s)), "x");
 }
 
 void BackupTest::nothingIsReplacedByARefusedOrStoppedRestore()
 {
     const QString backup = makeBackup(*m_db, BackupKind::Manual);
     addCustomer(990);
-    const QByteArray before = bytes(company());
+    const QByteArray before = fileBytes(company());
     {
         // Another program is in the middle of a save.
         const Transaction save(*m_db);
@@ -373,7 +363,7 @@ void BackupTest::nothingIsReplacedByARefusedOrStoppedRestore()
             BackupCancelled,
             restoreBackup(company(), backup, [&](int done, int) { return done < stopAt; }));
     }
-    QCOMPARE(bytes(company()), before);
+    QCOMPARE(fileBytes(company()), before);
     QCOMPARE(inFolder(), QStringList{u"atolye.kuyum"_s});
     QCOMPARE(backups(company()).size(), 1);
 }

@@ -1,6 +1,7 @@
 #include "AnaMenu.h"
 #include "Backup.h"
 #include "DailyBackup.h"
+#include "FileBytes.h"
 #include "FullDisk.h"
 #include "Pass_Form.h"
 #include "Schema.h"
@@ -46,24 +47,13 @@ private Q_SLOTS:
 
 private:
     QString company() const { return m_companies->path(u"Database/bir.kuyum"_s); }
-    static QByteArray bytes(const QString &file)
-    {
-        QFile source(file);
-        return source.open(QIODevice::ReadOnly) ? source.readAll() : QByteArray();
-    }
-    static void write(const QString &file, const QByteArray &content)
-    {
-        QFile target(file);
-        QVERIFY(target.open(QIODevice::WriteOnly));
-        QCOMPARE(target.write(content), content.size());
-    }
     /// Changes a letter in one of the places where it stands: the index says
     /// another name than the row.
     static void damageIndex(const QString &file)
     {
-        QByteArray content = bytes(file);
+        QByteArray content = fileBytes(file);
         content[content.lastIndexOf("Kuyumculuk")] = 'X';
-        write(file, content);
+        writeFile(file, content);
     }
     QString makeCopy(BackupKind kind = BackupKind::Daily) const
     {
@@ -144,7 +134,7 @@ void BackupStartTest::aBackupThatFailsKeepsNobodyFromWorking()
     QVERIFY(backUpDaily(oturum, messages));
     disk.empty();
     // Something else bears the folder's name.
-    write(backupFolder(company()) + u".x"_s, "x");
+    writeFile(backupFolder(company()) + u".x"_s, "x");
     QVERIFY(QDir(backupFolder(company())).removeRecursively());
     QVERIFY(QFile::rename(backupFolder(company()) + u".x"_s, backupFolder(company())));
     messages.expect(failed(u"Yedek klasörü açılamadı (yazma izni ya da diskte yer yok): "_s +
@@ -157,9 +147,9 @@ void BackupStartTest::damageFoundByTheDaysBackup()
 {
     RestoreMessages messages;
     const QString good = makeCopy(BackupKind::Manual);
-    const QByteArray before = bytes(company());
+    const QByteArray before = fileBytes(company());
     damageIndex(company());
-    const QByteArray damaged = bytes(company());
+    const QByteArray damaged = fileBytes(company());
     Oturum oturum = m_companies->loggedIn(u"Admin"_s, 1, {2012, 6, 1});
     const QString text = offer(u"Veri tabanı dosyası bozuk, yedeği alınmadı. (row 1 missing from "
                                "index Firma.ix.FirAdi)"_s,
@@ -167,15 +157,15 @@ void BackupStartTest::damageFoundByTheDaysBackup()
     messages.expect(question(text, MessageAnswer::No));
     QVERIFY(backUpDaily(oturum, messages));
     messages.verify();
-    QCOMPARE(bytes(company()), damaged);
+    QCOMPARE(fileBytes(company()), damaged);
     QVERIFY(oturum.Veritabani != nullptr);
 
     messages.expect(question(text, MessageAnswer::Yes));
     QVERIFY(backUpDaily(oturum, messages));
     messages.verify();
-    QCOMPARE(bytes(company()), bytes(good));
+    QCOMPARE(fileBytes(company()), fileBytes(good));
     QCOMPARE(backups(company()).size(), 1);
-    QCOMPARE(bytes(keptDamaged()), damaged);
+    QCOMPARE(fileBytes(keptDamaged()), damaged);
     QCOMPARE(messages.told, QStringList{u"Yedek geri yüklendi. Önceki dosya burada saklandı:\n"_s +
                                         keptDamaged()});
 }
@@ -201,16 +191,16 @@ void BackupStartTest::aDamagedCompanyIsOfferedItsNewestGoodBackup()
         damage == u"gone"_s ? m_companies->path(u"Database/BIR.kuyum"_s) : company();
     const QString good = makeCopy();
     const QString changed = makeCopy();
-    QByteArray content = bytes(changed);
+    QByteArray content = fileBytes(changed);
     content[content.indexOf("Kuyumculuk")] = 'X';
-    write(changed, content);
-    const QByteArray whole = bytes(company());
+    writeFile(changed, content);
+    const QByteArray whole = fileBytes(company());
     if (damage == u"gone"_s)
         QVERIFY(QFile::remove(company()));
     else if (damage == u"text"_s)
-        write(company(), QByteArray(5000, 'x'));
+        writeFile(company(), QByteArray(5000, 'x'));
     else
-        write(company(), damage == u"half"_s ? whole.first(whole.size() / 2) : QByteArray());
+        writeFile(company(), damage == u"half"_s ? whole.first(whole.size() / 2) : QByteArray());
     if (damage == u"empty"_s)
         trouble += company();
 
@@ -233,7 +223,7 @@ void BackupStartTest::aDamagedCompanyIsOfferedItsNewestGoodBackup()
     Srkkod->setFocus();
     Q_EMIT Srkkod->activated(Srkkod->currentIndex());
     messages.verify();
-    QCOMPARE(bytes(database), bytes(good));
+    QCOMPARE(fileBytes(database), fileBytes(good));
     QVERIFY(oturum.Veritabani != nullptr);
     QVERIFY(form.findChild<QComboBox *>(u"Kullanici"_s)->count() > 1);
     QCOMPARE(messages.told.size(), 1);
@@ -241,7 +231,7 @@ void BackupStartTest::aDamagedCompanyIsOfferedItsNewestGoodBackup()
 
 void BackupStartTest::noGoodBackupIsSaid()
 {
-    write(company(), QByteArray(600, 'x'));
+    writeFile(company(), QByteArray(600, 'x'));
     RestoreMessages messages;
     Oturum oturum;
     oturum.kayitYolu = m_companies->registry();
@@ -254,14 +244,14 @@ void BackupStartTest::noGoodBackupIsSaid()
          .icon = MessageIcon::Critical});
     QVERIFY(form.load());
     messages.verify();
-    QCOMPARE(bytes(company()), QByteArray(600, 'x'));
+    QCOMPARE(fileBytes(company()), QByteArray(600, 'x'));
 }
 
 void BackupStartTest::aMissingCompanyIsNotTakenOverAgain()
 {
     const QString good = makeCopy();
     QVERIFY(QFile::remove(company()));
-    write(m_companies->path(u"Database/bir.mdb"_s), "the company as it was years ago");
+    writeFile(m_companies->path(u"Database/bir.mdb"_s), "the company as it was years ago");
     openRegistry(m_companies->registry())
         ->execute(u"Update SirketKayit Set DataYolu = 'c:\\database\\bir.mdb' Where Srkkod = 1"_s);
     RestoreMessages messages;
@@ -274,7 +264,7 @@ void BackupStartTest::aMissingCompanyIsNotTakenOverAgain()
     // It has no stamp of a take-over, so the legacy file is not looked at.
     QVERIFY(form.load());
     messages.verify();
-    QCOMPARE(bytes(company()), bytes(good));
+    QCOMPARE(fileBytes(company()), fileBytes(good));
     QVERIFY(oturum.Veritabani != nullptr);
 }
 
