@@ -160,15 +160,25 @@ QList<TableDef> labelTables()
     };
 }
 
-std::unique_ptr<Database> openCurrent(const QString &path, const QList<TableDef> &tables)
+/// Opening a file for work adds what it lacks, so whatever is not ours is
+/// refused before that, through a connection that writes nothing.
+void requireOurs(const QString &path, const QStringList &tables, const QString &refusal)
 {
-    std::unique_ptr<Database> db = Database::open(path);
-    const int version = db->schemaVersion();
-    if (version > currentSchemaVersion) {
+    const std::unique_ptr<Database> db = Database::open(path, Database::Access::ReadOnly);
+    for (const QString &table : tables) {
+        if (!db->hasTable(table))
+            throw DatabaseError(refusal + path);
+    }
+    if (db->schemaVersion() > currentSchemaVersion) {
         throw DatabaseError(u"Bu dosya programın daha yeni bir sürümü ile yazılmış, açılamaz: "_s +
                             path);
     }
-    if (version < currentSchemaVersion) {
+}
+
+std::unique_ptr<Database> openCurrent(const QString &path, const QList<TableDef> &tables)
+{
+    std::unique_ptr<Database> db = Database::open(path);
+    if (db->schemaVersion() < currentSchemaVersion) {
         Transaction transaction(*db);
         completeTables(*db, tables);
         db->setSchemaVersion(currentSchemaVersion);
@@ -278,11 +288,14 @@ void completeTables(Database &db, const QList<TableDef> &tables)
 
 std::unique_ptr<Database> openCompany(const QString &path)
 {
+    requireOurs(path, {u"Users"_s, u"SiparisB"_s, u"SiparisD"_s},
+                u"Bu dosya bir şirketin veri tabanı değil: "_s);
     return openCurrent(path, companyTables());
 }
 
 std::unique_ptr<Database> openRegistry(const QString &path)
 {
+    requireOurs(path, {u"SirketKayit"_s}, u"Bu dosya bir şirket kayıt dosyası değil: "_s);
     return openCurrent(path, registryTables());
 }
 

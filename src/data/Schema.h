@@ -36,7 +36,8 @@ bool hasIndexOver(const TableDef &table, const IndexDef &wanted);
 IndexDef freelyNamed(IndexDef index, const TableDef &table);
 
 /// Opens a company for work: steps an older file up to the current layout,
-/// refuses a newer one with a DatabaseError that says so.
+/// refuses a newer one, and one that is no company, with a DatabaseError that
+/// says so and the file as it was.
 std::unique_ptr<Database> openCompany(const QString &path);
 std::unique_ptr<Database> openRegistry(const QString &path);
 

@@ -276,6 +276,10 @@ void RecordsetTest::completesAnOlderFile()
                           {{u"TasID"_s, FieldType::Long, 0, true},
                            {u"Taskodu"_s, FieldType::Text, 20},
                            {u"Ozel"_s, FieldType::Memo}}});
+        for (const TableDef &table : companyTables()) {
+            if (QStringList{u"Users"_s, u"SiparisB"_s, u"SiparisD"_s}.contains(table.name))
+                old->createTable(table);
+        }
         Recordset stones = old->table(u"Tas"_s);
         for (const QString &code : {u"ZRK"_s, u"zrk"_s}) { // forbids the unique index
             stones.addNew();
@@ -305,6 +309,14 @@ void RecordsetTest::refusesForeignFiles()
     text.write(QByteArray(5000, 'x'));
     text.close();
     QVERIFY_THROWS_EXCEPTION(DatabaseError, openCompany(text.fileName()));
+    // What is a database, but not a company's, is not made into one.
+    const QString registry = m_folder->filePath(u"sirket.kuyum"_s);
+    createRegistry(registry)->setSchemaVersion(1);
+    QVERIFY_THROWS_EXCEPTION(DatabaseError, openCompany(registry));
+    QVERIFY_THROWS_EXCEPTION(DatabaseError, openRegistry(m_db->path()));
+    const std::unique_ptr<Database> untouched = Database::open(registry);
+    QCOMPARE(untouched->tableNames(), QStringList(u"SirketKayit"_s));
+    QCOMPARE(untouched->schemaVersion(), 1);
     QVERIFY_THROWS_EXCEPTION(DatabaseError, createCompany(m_db->path()));
 }
 
