@@ -37,8 +37,7 @@ Tanim_Katalog::~Tanim_Katalog() = default;
 void Tanim_Katalog::Ondegerler()
 {
     const TableDef table = m_context.oturum.Veritabani->tableDef(u"Katalog"_s);
-    const FieldDef *remark = table.field(u"kataciklama");
-    m_ui->Rapor->setUp(m_model, m_context.messages, remark == nullptr ? 0 : remark->size);
+    m_ui->Rapor->setUp(m_model, m_context.messages, table.textLimit(u"kataciklama"));
     QPalette quiet = palette();
     quiet.setColor(QPalette::WindowText, themeColors(quiet).muted);
     // While its catalogue is edited, the name cannot be typed in but must be read.
@@ -58,9 +57,8 @@ void Tanim_Katalog::limitEntries()
 {
     const TableDef table = m_context.oturum.Veritabani->tableDef(u"Katalog"_s);
     const auto limit = [&table](QLineEdit *box, QStringView name) {
-        const FieldDef *field = table.field(name);
-        if (field != nullptr && field->type == FieldType::Text && field->size > 0)
-            box->setMaxLength(field->size);
+        if (const int longest = table.textLimit(name))
+            box->setMaxLength(longest);
     };
     limit(m_ui->KatAdi, u"KatAdi");
     limit(m_ui->txtAciklama, u"kataciklama");

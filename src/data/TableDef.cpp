@@ -92,3 +92,9 @@ const FieldDef *TableDef::counter() const
     }
     return nullptr;
 }
+
+int TableDef::textLimit(QStringView name) const
+{
+    const FieldDef *def = field(name);
+    return def != nullptr && def->type == FieldType::Text ? def->size : 0;
+}

@@ -56,4 +56,7 @@ struct TableDef
     /// The field of that name, without regard to case; null when there is none.
     const FieldDef *field(QStringView name) const;
     const FieldDef *counter() const;
+    /// How many characters a text of that field can have; 0 when there is no
+    /// limit, or no such field.
+    int textLimit(QStringView name) const;
 };

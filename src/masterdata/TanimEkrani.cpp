@@ -245,9 +245,8 @@ bool TanimEkrani::numberFits(QLineEdit &box)
 
 void TanimEkrani::limitText(QLineEdit &box, QStringView field)
 {
-    const FieldDef *def = m_table.field(field);
-    if (def != nullptr && def->type == FieldType::Text && def->size > 0)
-        box.setMaxLength(def->size);
+    if (const int longest = m_table.textLimit(field))
+        box.setMaxLength(longest);
 }
 
 bool TanimEkrani::ask(const QString &text, const QString &title, MessageAnswer defaultAnswer)
