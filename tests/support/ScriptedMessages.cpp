@@ -33,9 +33,11 @@ void ScriptedMessages::expect(const Expected &expected)
     m_script.append(Step{.expected = expected});
 }
 
-void ScriptedMessages::expectInput(const QString &prompt, const std::optional<QString> &answer)
+void ScriptedMessages::expectInput(const QString &prompt, const std::optional<QString> &answer,
+                                   const std::optional<QString> &title)
 {
-    m_script.append(Step{.expected = {.text = prompt}, .isInput = true, .inputAnswer = answer});
+    m_script.append(
+        Step{.expected = {.text = prompt, .title = title}, .isInput = true, .inputAnswer = answer});
 }
 
 void ScriptedMessages::verify()
@@ -78,9 +80,11 @@ MessageAnswer ScriptedMessages::show(QWidget *, const Message &message)
     return expected.answer;
 }
 
-std::optional<QString> ScriptedMessages::input(QWidget *, const QString &prompt, const QString &,
-                                               const QString &)
+std::optional<QString> ScriptedMessages::input(QWidget *, const QString &prompt,
+                                               const QString &title, const QString &)
 {
     const std::optional<Step> step = take(true, prompt);
+    if (step.has_value())
+        compareIfSet(step->expected.title, title, u"title \"%1\" of \"%2\""_s.arg(title, prompt));
     return step.has_value() ? step->inputAnswer : std::nullopt;
 }

@@ -39,7 +39,8 @@ public:
     void expect(const QString &text, MessageAnswer answer = MessageAnswer::Ok);
     void expect(const Expected &expected);
     /// Nothing as the answer leaves the box without one.
-    void expectInput(const QString &prompt, const std::optional<QString> &answer);
+    void expectInput(const QString &prompt, const std::optional<QString> &answer,
+                     const std::optional<QString> &title = {});
 
     /// Fails the test when something expected has not come.
     void verify();
