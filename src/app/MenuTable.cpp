@@ -1,14 +1,17 @@
 #include "MenuTable.h"
 
 #include "CameraFrames.h"
+#include "DatabaseOpening.h"
 #include "Dosya_Yenile.h"
 #include "FrmWebcam.h"
 #include "Giris_Kur.h"
 #include "Giris_Siparis.h"
+#include "Parametreler.h"
 #include "Rapor_Genel.h"
 #include "Rapor_Siparis.h"
 #include "Rapor_Siparis2.h"
 #include "Rapor_Ymamul.h"
+#include "Schema.h"
 #include "ScreenServices.h"
 #include "Tanim_Ayar.h"
 #include "Tanim_Barkod.h"
@@ -94,6 +97,17 @@ ScreenFactory orderScreen(ScreenServices &services)
     };
 }
 
+ScreenFactory settingsScreen(ScreenServices &services)
+{
+    return [&services](QWidget *parent) {
+        const auto open = [&messages = services.messages](QWidget *owner, const QString &path) {
+            return openTakenOver(owner, messages, path, openCompany);
+        };
+        return std::make_unique<Parametreler>(services.context(),
+                                              ParametreServices{open, services.printers}, parent);
+    };
+}
+
 } // namespace
 
 MenuScreens menuTable(ScreenServices &services)
@@ -118,6 +132,7 @@ MenuScreens menuTable(ScreenServices &services)
         {12, reportScreen<Rapor_Genel>(services)},
         {13, reportScreen<Rapor_Genel>(services)},
         {17, screen<Tanim_User>(services)},
+        {18, settingsScreen(services)},
         {19, screen<Dosya_Yenile>(services)},
     };
 }

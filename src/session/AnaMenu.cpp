@@ -32,7 +32,8 @@ AnaMenu::AnaMenu(Oturum &oturum, Messages &messages, MenuScreens screens)
       m_messages(messages),
       m_screens(std::move(screens)),
       m_ui(std::make_unique<Ui::AnaMenu>()),
-      m_panel(nullptr)
+      m_panel(nullptr),
+      m_DataYolu(new QLabel(this))
 {
     m_ui->setupUi(this);
     m_panel = m_ui->panel;
@@ -53,7 +54,8 @@ void AnaMenu::showSession()
         new ElidedLabel(u"Kuyum  -  Altın takı sipariş ve üretim takibi  -  Ver : 2012.03"_s);
     program->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     statusBar()->addWidget(program, 1);
-    statusBar()->addPermanentWidget(new QLabel(m_oturum.DataYolu));
+    m_DataYolu->setText(m_oturum.DataYolu);
+    statusBar()->addPermanentWidget(m_DataYolu);
 
     QFont title = font();
     title.setPointSizeF(title.pointSizeF() * 1.6);
@@ -159,6 +161,8 @@ void AnaMenu::open(int number)
         const std::unique_ptr<QDialog> screen = factory->second(this);
         screen->exec();
     });
+    // The settings may have opened another database.
+    m_DataYolu->setText(m_oturum.DataYolu);
 }
 
 bool AnaMenu::eventFilter(QObject *watched, QEvent *event)

@@ -47,4 +47,5 @@ private:
     std::unique_ptr<Ui::AnaMenu> m_ui;
     MenuPanel *m_panel;
     QList<QPushButton *> m_fixedButtons;
+    QLabel *m_DataYolu;
 };

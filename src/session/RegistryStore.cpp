@@ -33,3 +33,17 @@ std::optional<Sirket> RegistryStore::find(qint32 Srkkod)
         return std::nullopt;
     return companyOf(rows);
 }
+
+void RegistryStore::savePaths(const Sirket &sirket)
+{
+    Transaction transaction(m_registry);
+    Recordset row = m_registry.table(u"SirketKayit"_s);
+    if (!row.seek({sirket.Srkkod}))
+        throw DatabaseError(u"ŞİRKET KAYITLI DEĞİL..."_s);
+    row.edit();
+    row.set(u"DataYolu", sirket.DataYolu);
+    row.set(u"ResimYolu", sirket.ResimYolu);
+    row.set(u"Transferyolu", sirket.Transferyolu);
+    row.update();
+    transaction.commit();
+}

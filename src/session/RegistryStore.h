@@ -28,6 +28,8 @@ public:
     /// In the order of their codes.
     QList<Sirket> companies();
     std::optional<Sirket> find(qint32 Srkkod);
+    /// Writes the paths of a company that is there.
+    void savePaths(const Sirket &sirket);
 
 private:
     Database &m_registry;

@@ -1,0 +1,78 @@
+#include "ParametreStore.h"
+
+#include "LegacyPath.h"
+#include "RegistryPaths.h"
+#include "Schema.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+/// The login took a legacy registry over; what it took it into is the registry.
+static std::unique_ptr<Database> openRegistryOf(const Oturum &oturum)
+{
+    return openRegistry(takenOverPath(oturum.kayitYolu));
+}
+
+std::optional<Sirket> ParametreStore::sirket() const
+{
+    const std::unique_ptr<Database> registry = openRegistryOf(m_oturum);
+    return RegistryStore(*registry).find(m_oturum.SirketKodu);
+}
+
+std::optional<Ayarlar> ParametreStore::ayarlar() const
+{
+    Recordset XXX = m_oturum.Veritabani->table(u"XXX"_s);
+    if (!XXX.next())
+        return std::nullopt;
+    return Ayarlar{XXX.number(u"TeraziTip"), XXX.number(u"ComportID"), XXX.text(u"comportST"),
+                   XXX.text(u"YaziciAdi"), XXX.number(u"sabitayar")};
+}
+
+void ParametreStore::kaydet(const Ayarlar &ayarlar)
+{
+    Recordset XXX = m_oturum.Veritabani->table(u"XXX"_s);
+    if (!XXX.next())
+        return;
+    XXX.edit();
+    XXX.set(u"TeraziTip", ayarlar.TeraziTip);
+    XXX.set(u"ComportID", ayarlar.ComportID);
+    XXX.set(u"comportST", ayarlar.comportST);
+    XXX.set(u"YaziciAdi", ayarlar.YaziciAdi);
+    XXX.set(u"sabitayar", ayarlar.sabitayar);
+    XXX.update();
+}
+
+QString ParametreStore::veriDosyasi(const QString &DataYolu) const
+{
+    return RegistryPaths(m_oturum.kayitYolu).resolveDatabase(DataYolu);
+}
+
+bool ParametreStore::acikOlan(const QString &DataYolu) const
+{
+    return QFileInfo(takenOverPath(veriDosyasi(DataYolu))) ==
+           QFileInfo(m_oturum.Veritabani->path());
+}
+
+bool ParametreStore::girisYapilabilir(Database &db)
+{
+    return db
+        .query(u"Select Top 1 User_ID From Users Where User_Sil = 0 and user_pass Is Not Null"_s)
+        .next();
+}
+
+void ParametreStore::yollariDegistir(const Sirket &yollar, std::unique_ptr<Database> yeni)
+{
+    const RegistryPaths paths(m_oturum.kayitYolu);
+    QString ResimYolu = paths.resolve(yollar.ResimYolu);
+    QString Transferyolu = paths.resolve(yollar.Transferyolu);
+    Sirket kayit = yollar;
+    kayit.Srkkod = m_oturum.SirketKodu;
+    RegistryStore(*openRegistryOf(m_oturum)).savePaths(kayit);
+
+    if (yeni != nullptr)
+        m_oturum.Veritabani = std::move(yeni);
+    m_oturum.DataYolu = std::move(kayit.DataYolu);
+    m_oturum.ResimYolu = std::move(ResimYolu);
+    m_oturum.Transferyolu = std::move(Transferyolu);
+}
