@@ -13,6 +13,9 @@ public:
     /// Called with how many of how many are done; false when the user stopped.
     std::function<bool(int done, int total)> progress();
 
+    /// Says anew what is done.
+    void setText(const QString &text) { m_box.setLabelText(text); }
+
 private:
     QProgressDialog m_box;
 };

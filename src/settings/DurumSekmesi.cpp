@@ -1,6 +1,7 @@
 #include "DurumSekmesi.h"
 
 #include "Guarded.h"
+#include "ListCellDelegate.h"
 #include "Theme.h"
 #include "ui_DurumSekmesi.h"
 
@@ -20,6 +21,8 @@ DurumSekmesi::DurumSekmesi(const ScreenContext &context, QWidget *parent)
         {DurumTuru::Uretim, m_ui->cmdEkle2, m_ui->cmdsil2}};
     for (const auto &[tur, add, remove] : buttons) {
         liste(tur)->installEventFilter(this);
+        liste(tur)->setItemDelegate(new ListCellDelegate(this));
+        liste(tur)->setGridSize({1, fontMetrics().height() + ListCellDelegate::lineSpace});
         connect(add, &QPushButton::clicked, this,
                 [this, tur = tur] { guarded(m_context.messages, this, [&] { ekle(tur); }); });
         connect(remove, &QPushButton::clicked, this,

@@ -1,11 +1,13 @@
 #include "Parametreler.h"
 
 #include "AyarSekmesi.h"
+#include "BakimSekmesi.h"
 #include "DurumSekmesi.h"
 #include "EntryControls.h"
 #include "Guarded.h"
 #include "Theme.h"
 #include "ui_Parametreler.h"
+#include "YedekSekmesi.h"
 
 #include <QKeyEvent>
 #include <QScreen>
@@ -19,7 +21,9 @@ Parametreler::Parametreler(const ScreenContext &context, const ParametreServices
       m_context(context),
       m_ui(std::make_unique<Ui::Parametreler>()),
       m_ayar(new AyarSekmesi(context, services, this)),
-      m_durum(new DurumSekmesi(context, this))
+      m_durum(new DurumSekmesi(context, this)),
+      m_yedek(new YedekSekmesi(context, this)),
+      m_bakim(new BakimSekmesi(context, this))
 {
     m_ui->setupUi(this);
     setUpTabs();
@@ -36,6 +40,8 @@ void Parametreler::setUpTabs()
 {
     m_ui->ParametreTab->addTab(m_ayar, u"&Ayarlar"_s);
     m_ui->ParametreTab->addTab(m_durum, u"&Durum kodları"_s);
+    m_ui->ParametreTab->addTab(m_yedek, u"&Yedekler"_s);
+    m_ui->ParametreTab->addTab(m_bakim, u"&Bakım"_s);
     QPalette quiet = palette();
     quiet.setColor(QPalette::WindowText, themeColors(quiet).muted);
     m_ui->kayitDurumu->setPalette(quiet);
@@ -55,6 +61,9 @@ void Parametreler::connectControls()
     }
     connect(m_ayar, &AyarSekmesi::edited, m_ui->kayitDurumu, &QLabel::clear);
     connect(m_ayar, &AyarSekmesi::companyChanged, this, &Parametreler::tellNewCompany);
+    connect(m_yedek, &YedekSekmesi::restoreAsked, this,
+            [this] { guarded(m_context.messages, this, [this] { restore(); }); });
+    connect(m_yedek, &YedekSekmesi::restored, this, &Parametreler::load);
     connect(m_ui->cmdKayit, &QPushButton::clicked, this,
             [this] { guarded(m_context.messages, this, [this] { kaydet(); }); });
     connect(m_ui->Yardim, &QPushButton::clicked, this, [this] {
@@ -76,10 +85,17 @@ void Parametreler::load()
 
 void Parametreler::enterTab()
 {
-    if (m_ui->ParametreTab->currentWidget() == m_ayar)
+    const QWidget *tab = m_ui->ParametreTab->currentWidget();
+    if (tab == m_ayar) {
         m_ayar->focusFirst();
-    else
+    } else if (tab == m_durum) {
         m_durum->focusFirst();
+    } else if (tab == m_yedek) {
+        m_yedek->load(); // a repair makes one, too
+        m_yedek->focusFirst();
+    } else {
+        m_bakim->focusFirst();
+    }
 }
 
 // Keys
@@ -122,6 +138,13 @@ void Parametreler::tellNewCompany()
         "tabanından ancak programın bir sonraki açılışında okunur. Programı "
         "kapatıp yeniden açın."_s,
         MessageIcon::Information);
+}
+
+/// What is typed belongs to the database that goes.
+void Parametreler::restore()
+{
+    if (mayLeave())
+        m_yedek->restore();
 }
 
 bool Parametreler::mayLeave()

@@ -7,7 +7,9 @@
 #include <QDialog>
 
 class AyarSekmesi;
+class BakimSekmesi;
 class DurumSekmesi;
+class YedekSekmesi;
 
 namespace Ui {
 class Parametreler;
@@ -39,9 +41,12 @@ private:
     bool mayLeave();
     void kaydet();
     void tellNewCompany();
+    void restore();
 
     ScreenContext m_context;
     std::unique_ptr<Ui::Parametreler> m_ui;
     AyarSekmesi *m_ayar;
     DurumSekmesi *m_durum;
+    YedekSekmesi *m_yedek;
+    BakimSekmesi *m_bakim;
 };

@@ -1,9 +1,12 @@
 #include "Parametreler.h"
+#include "Backup.h"
 #include "DatabaseOpening.h"
+#include "Dates.h"
 #include "KeptDocuments.h"
 #include "Keyboard.h"
 #include "Oturum.h"
 #include "Printers.h"
+#include "RaporGrid.h"
 #include "Schema.h"
 #include "ScreenContext.h"
 #include "ScriptedMessages.h"
@@ -334,6 +337,115 @@ private Q_SLOTS:
         QCOMPARE(
             Settings::row(*on.oturum.Veritabani, u"Select * From Durum2 Where d2_tanim = 'CİLA'"_s),
             u"none"_s);
+    }
+
+    void backupsAreMadeCheckedAndRestored()
+    {
+        Settings on;
+        on.open();
+        on.key(Qt::Key_Tab, Qt::ControlModifier);
+        on.key(Qt::Key_Tab, Qt::ControlModifier);
+        QCOMPARE(on.focus(), u"cmdYedekle"_s); // there is no backup to stand on
+        QVERIFY(!on.control(u"cmdGeriYukle"_s)->isEnabled());
+        on.messages.expect({.text = u"Yedek alındı ve denetlendi:\n\n"_s, .begins = true});
+        on.enter();
+        on.messages.verify();
+        const QString database = on.oturum.Veritabani->path();
+        const QString made = formatDateTime(backups(database).first().made);
+        QCOMPARE(on.control<QTableView>(u"Yedekler"_s)->currentIndex().data().toString(), made);
+        on.messages.expect(made + u" tarihli yedek sağlam, geri yüklenebilir."_s);
+        on.press(Qt::Key_E, u"cmdDenetle"_s);
+
+        // What is done after the backup goes with it, once the user says so.
+        const auto code = [&on] {
+            return Settings::row(*on.oturum.Veritabani, u"Select d2_tanim From Durum2"_s);
+        };
+        on.oturum.Veritabani->execute(u"Update Durum2 Set d2_tanim = 'SONRA'"_s);
+        const auto ask = [&](MessageAnswer answer) {
+            on.messages.expect(
+                {.text = u"VERİ TABANI %1 TARİHLİ YEDEKTEKİ DURUMUNA DÖNECEK."_s.arg(made),
+                 .answer = answer,
+                 .defaultAnswer = MessageAnswer::No,
+                 .begins = true});
+        };
+        ask(MessageAnswer::No);
+        on.press(Qt::Key_G, u"cmdGeriYukle"_s);
+        QCOMPARE(code(), u"SONRA"_s);
+        {
+            // A restore that fails leaves the database open as it was.
+            const BackupPlace busy(database);
+            ask(MessageAnswer::Yes);
+            on.messages.expect({.text = {}, .title = u"HATA"_s, .begins = true});
+            on.press(Qt::Key_G, u"cmdGeriYukle"_s);
+            on.messages.verify();
+            QCOMPARE(code(), u"SONRA"_s);
+        }
+        ask(MessageAnswer::Yes);
+        on.messages.expect(
+            {.text = u"Yedek geri yüklendi. Önceki veri tabanı burada saklanıyor:\n\n"_s,
+             .begins = true});
+        on.press(Qt::Key_G, u"cmdGeriYukle"_s);
+        on.messages.verify();
+        QCOMPARE(code(), u"DÖKÜM"_s);
+        QCOMPARE(on.codes(u"Durum2"_s), QStringList(u"DÖKÜM"_s));
+        QCOMPARE(on.control<QTableView>(u"Yedekler"_s)->model()->rowCount(), 2);
+    }
+
+    void aDamagedBackupIsRefused()
+    {
+        Settings on;
+        const QString backup = makeBackup(*on.oturum.Veritabani, BackupKind::Daily);
+        QFile file(backup);
+        QVERIFY(file.open(QFile::ReadWrite) && file.seek(file.size() / 2));
+        const char byte = file.peek(1).at(0);
+        file.write(QByteArray(1, char(byte + 1)));
+        file.close();
+        const Database *before = on.oturum.Veritabani.get();
+        on.open();
+        on.fill(u"ComportID"_s, u"5"_s);
+        on.key(Qt::Key_Y, Qt::AltModifier);
+        QTRY_COMPARE(on.focus(), u"Yedekler"_s);
+        // What is typed belongs to the database that would go.
+        on.messages.expect(u"DEĞİŞİKLİKLER KAYIT EDİLMEDİ, VAZGEÇİLSİN Mİ ?"_s, MessageAnswer::No);
+        on.press(Qt::Key_G, u"cmdGeriYukle"_s);
+        on.messages.expect(u"DEĞİŞİKLİKLER KAYIT EDİLMEDİ, VAZGEÇİLSİN Mİ ?"_s, MessageAnswer::Yes);
+        on.messages.expect({.text = {}, .title = u"HATA"_s, .begins = true});
+        on.press(Qt::Key_G, u"cmdGeriYukle"_s);
+        on.messages.verify();
+        QCOMPARE(on.oturum.Veritabani.get(), before); // it was not even closed
+    }
+
+    void repairsAllTables()
+    {
+        Settings on;
+        on.oturum.Veritabani->execute(u"Update Firma Set Telefon = Null"_s);
+        const auto phone = [&on] {
+            return Settings::row(*on.oturum.Veritabani, u"Select Telefon From Firma"_s);
+        };
+        on.open();
+        on.key(Qt::Key_Tab, Qt::ControlModifier | Qt::ShiftModifier);
+        QCOMPARE(on.focus(), u"CmdDosyaDuzenle"_s);
+        for (const MessageAnswer answer : {MessageAnswer::No, MessageAnswer::Yes}) {
+            on.messages.expect({.text = u"SISTEMDEKI TUM DOSYALAR DUZENLENECEK..."_s,
+                                .answer = answer,
+                                .icon = MessageIcon::Critical});
+            if (answer == MessageAnswer::Yes) {
+                on.messages.expect({.text = u"TUM DOSYALAR DUZENLENMISTIR...\n\n"_s,
+                                    .icon = MessageIcon::Information,
+                                    .begins = true});
+            }
+            on.press(Qt::Key_O, u"CmdDosyaDuzenle"_s);
+            on.messages.verify();
+            QCOMPARE(phone(), answer == MessageAnswer::Yes ? u" "_s : QString());
+        }
+        QCOMPARE(backups(on.oturum.Veritabani->path()).first().kind, BackupKind::BeforeRepair);
+        const ReportTable fields = on.control<RaporGrid>(u"Alanlar"_s)->table();
+        QCOMPARE(fields.columns.size(), 3);
+        QCOMPARE(fields.columns.first().heading, u"Name"_s);
+        const TableDef last =
+            on.oturum.Veritabani->tableDef(on.oturum.Veritabani->tableNames().last());
+        QCOMPARE(fields.rows.size(), last.fields.size());
+        QCOMPARE(fields.rows.first().values.first().toString(), last.fields.first().name);
     }
 
     void aCompanyThatIsNotInTheRegistry()

@@ -28,6 +28,7 @@ public:
         std::optional<MessageIcon> icon = {};
         std::optional<MessageAnswer> defaultAnswer = {}; ///< of a question
         std::function<void()> meanwhile = {};            ///< run while the box stands open
+        bool begins = false;                             ///< the message goes on after the text
     };
 
     ScriptedMessages() = default;
