@@ -33,8 +33,14 @@ void ListCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
 
 QSize ListCellDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
+    // Before it is laid out a cell has no width that its text could wrap in.
+    const bool wraps = option.features.testFlag(QStyleOptionViewItem::WrapText) &&
+                       option.rect.width() > 2 * padding;
     const QRect room(0, 0, option.rect.width() - 2 * padding, 0);
+    const QString text = index.data().toString();
     const QRect needed =
-        option.fontMetrics.boundingRect(room, Qt::TextWordWrap, index.data().toString());
+        wraps ? option.fontMetrics.boundingRect(room, Qt::TextWordWrap, text)
+              : QRect(0, 0, option.fontMetrics.horizontalAdvance(text) + 1, // it is rounded
+                      option.fontMetrics.height());
     return needed.size() + QSize(2 * padding, lineSpace);
 }
