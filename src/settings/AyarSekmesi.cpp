@@ -10,6 +10,7 @@
 #include "ui_AyarSekmesi.h"
 #include "UsersStore.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QEvent>
 #include <QFileDialog>
@@ -44,6 +45,9 @@ void AyarSekmesi::setUpBoxes()
     for (QWidget *watched : std::initializer_list<QWidget *>{m_ui->YeniYol, m_ui->ResimyoluX,
                                                              m_ui->Transferyolu, m_ui->YaziciAdi})
         watched->installEventFilter(this);
+    // The tab control's own ground shows through.
+    m_ui->alan->viewport()->setAutoFillBackground(false);
+    m_ui->icerik->setAutoFillBackground(false);
     QPalette quiet = palette();
     quiet.setColor(QPalette::WindowText, themeColors(quiet).muted);
     m_ui->yolNotu->setPalette(quiet);
@@ -63,6 +67,11 @@ void AyarSekmesi::connectControls()
     connect(m_ui->YaziciAdi, &QComboBox::currentTextChanged, this, &AyarSekmesi::edited);
     for (const QLineEdit *box : {m_ui->ResimyoluX, m_ui->Transferyolu})
         connect(box, &QLineEdit::editingFinished, this, &AyarSekmesi::tellMissingFolders);
+    // The tab scrolls on a small screen; by itself only after the Tab key.
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget *, QWidget *now) {
+        if (now != nullptr && m_ui->icerik->isAncestorOf(now))
+            m_ui->alan->ensureWidgetVisible(now);
+    });
     const std::initializer_list<std::pair<QToolButton *, QLineEdit *>> buttons = {
         {m_ui->cmdYeniYol, m_ui->YeniYol},
         {m_ui->cmdResimyolu, m_ui->ResimyoluX},
@@ -126,6 +135,9 @@ void AyarSekmesi::showSettings()
     // Also one that is not installed: it may be so on another workstation.
     m_ui->YaziciAdi->setCurrentText(m_ayarlar->YaziciAdi);
     m_ui->txtsabitayar->setText(plainNumber(m_ayarlar->sabitayar));
+    // Texts longer than their boxes are read from their beginning.
+    for (QLineEdit *box : {m_ui->comportST, m_ui->YaziciAdi->lineEdit()})
+        box->setCursorPosition(0);
 }
 
 Sirket AyarSekmesi::typedPaths() const

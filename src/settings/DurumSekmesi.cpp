@@ -22,7 +22,6 @@ DurumSekmesi::DurumSekmesi(const ScreenContext &context, QWidget *parent)
     for (const auto &[tur, add, remove] : buttons) {
         liste(tur)->installEventFilter(this);
         liste(tur)->setItemDelegate(new ListCellDelegate(this));
-        liste(tur)->setGridSize({1, fontMetrics().height() + ListCellDelegate::lineSpace});
         connect(add, &QPushButton::clicked, this,
                 [this, tur = tur] { guarded(m_context.messages, this, [&] { ekle(tur); }); });
         connect(remove, &QPushButton::clicked, this,

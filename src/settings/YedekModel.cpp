@@ -43,7 +43,8 @@ QVariant YedekModel::data(const QModelIndex &index, int role) const
     case kind:
         return backupKindText(backup.kind);
     case size:
-        return QLocale(QLocale::Turkish, QLocale::Turkey).formattedDataSize(backup.size, 1);
+        return QLocale(QLocale::Turkish, QLocale::Turkey)
+            .formattedDataSize(backup.size, 1, QLocale::DataSizeTraditionalFormat);
     default:
         return QFileInfo(backup.path).fileName();
     }
