@@ -129,15 +129,20 @@ void AyarSekmesi::showSettings()
         if (const int longest = XXX.textLimit(printer ? u"YaziciAdi"_s : u"comportST"_s))
             box->setMaxLength(longest);
     }
-    m_ui->TeraziTip->setText(plainNumber(m_ayarlar->TeraziTip));
-    m_ui->ComportID->setText(plainNumber(m_ayarlar->ComportID));
+    showNumbers();
     m_ui->comportST->setText(m_ayarlar->comportST);
     // Also one that is not installed: it may be so on another workstation.
     m_ui->YaziciAdi->setCurrentText(m_ayarlar->YaziciAdi);
-    m_ui->txtsabitayar->setText(plainNumber(m_ayarlar->sabitayar));
     // Texts longer than their boxes are read from their beginning.
     for (QLineEdit *box : {m_ui->comportST, m_ui->YaziciAdi->lineEdit()})
         box->setCursorPosition(0);
+}
+
+void AyarSekmesi::showNumbers()
+{
+    m_ui->TeraziTip->setText(plainNumber(m_ayarlar->TeraziTip));
+    m_ui->ComportID->setText(plainNumber(m_ayarlar->ComportID));
+    m_ui->txtsabitayar->setText(plainNumber(m_ayarlar->sabitayar));
 }
 
 Sirket AyarSekmesi::typedPaths() const
@@ -181,6 +186,8 @@ bool AyarSekmesi::kaydet()
                 return false;
             m_store.kaydet(typedSettings());
             m_ayarlar = m_store.ayarlar();
+            if (m_ayarlar.has_value())
+                showNumbers(); // an empty box was saved as 0
         }
         return !m_sirket.has_value() || savePaths();
     } catch (const std::exception &error) {
@@ -240,7 +247,7 @@ bool AyarSekmesi::numberFits(QLineEdit &box)
     const QString name = &box == m_ui->txtsabitayar ? u"sabitayar"_s : box.objectName();
     const FieldDef *field = XXX.field(name);
     QString why;
-    if (!isNumeric(box.text()))
+    if (!box.text().trimmed().isEmpty() && !isNumeric(box.text()))
         why = u"bir sayı olmalıdır."_s;
     else if (field != nullptr)
         why = whyNumberDoesNotFit(*field, leadingNumber(box.text()));

@@ -51,6 +51,7 @@ private:
     void connectControls();
     void showCompany();
     void showSettings();
+    void showNumbers();
     Sirket typedPaths() const;
     Ayarlar typedSettings() const;
     QList<QWidget *> boxes() const;

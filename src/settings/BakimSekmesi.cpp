@@ -62,6 +62,7 @@ void BakimSekmesi::CmdDosyaDuzenle()
         messages.say(this, stopped.text(), MessageIcon::Information);
         return;
     }
+    Q_EMIT repaired();
     messages.say(this, u"TUM DOSYALAR DUZENLENMISTIR...\n\n"_s + result.text(),
                  MessageIcon::Information);
 }

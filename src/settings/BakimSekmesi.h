@@ -20,6 +20,10 @@ public:
 
     void focusFirst();
 
+Q_SIGNALS:
+    /// Fields that were empty are filled.
+    void repaired();
+
 private:
     void CmdDosyaDuzenle();
     void showFields(const QString &table);

@@ -64,6 +64,11 @@ void Parametreler::connectControls()
     connect(m_yedek, &YedekSekmesi::restoreAsked, this,
             [this] { guarded(m_context.messages, this, [this] { restore(); }); });
     connect(m_yedek, &YedekSekmesi::restored, this, &Parametreler::load);
+    connect(m_bakim, &BakimSekmesi::repaired, this, [this] {
+        if (!m_ayar->degisti())
+            m_ayar->load();
+        m_durum->load();
+    });
     connect(m_ui->cmdKayit, &QPushButton::clicked, this,
             [this] { guarded(m_context.messages, this, [this] { kaydet(); }); });
     connect(m_ui->Yardim, &QPushButton::clicked, this, [this] {
@@ -125,6 +130,9 @@ void Parametreler::enterPressed()
 
 void Parametreler::kaydet()
 {
+    // What is typed, and may be refused, is seen.
+    if (m_ayar->degisti())
+        m_ui->ParametreTab->setCurrentWidget(m_ayar);
     if (m_ayar->kaydet())
         m_ui->kayitDurumu->setText(u"Ayarlar kaydedildi."_s);
 }

@@ -178,8 +178,8 @@ void YedekSekmesi::restore()
     Q_EMIT restored();
     m_context.messages.say(this,
                            u"Yedek geri yüklendi. Önceki veri tabanı burada saklanıyor:\n\n%1\n\n"
-                           "Kullanıcı ve yetkiler için programı kapatıp yeniden açın."_s.arg(
-                               QDir::toNativeSeparators(kept)),
+                           "Kullanıcı, yetkiler ve günün kurları için programı kapatıp yeniden "
+                           "açın."_s.arg(QDir::toNativeSeparators(kept)),
                            MessageIcon::Information);
 }
 

@@ -282,11 +282,24 @@ private Q_SLOTS:
         };
         const QString range = u" -32768 ile 32767 arasında bir tam sayı olmalıdır."_s;
         refuse(u"TeraziTip"_s, u"40000"_s, u"Terazi tipi"_s + range);
-        refuse(u"TeraziTip"_s, {}, u"Terazi tipi bir sayı olmalıdır."_s);
         refuse(u"ComportID"_s, u"COM3"_s, u"Port no bir sayı olmalıdır."_s);
         refuse(u"ComportID"_s, u"1.5"_s, u"Port no"_s + range);
         refuse(u"txtsabitayar"_s, u"."_s, u"Sabit ayar bir sayı olmalıdır."_s);
         QCOMPARE(on.registered(), stored);
+
+        // From another tab, the box that is refused comes into sight.
+        on.fill(u"ComportID"_s, u"COM3"_s);
+        on.key(Qt::Key_D, Qt::AltModifier);
+        QTRY_COMPARE(on.focus(), u"Durum1"_s);
+        on.messages.expect(u"Port no bir sayı olmalıdır."_s);
+        on.save();
+        QCOMPARE(on.focus(), u"ComportID"_s);
+        QVERIFY(on.control(u"ComportID"_s)->isVisible());
+        on.fill(u"ComportID"_s, {}); // nothing is 0, and shown as such
+        on.save();
+        on.messages.verify();
+        QCOMPARE(on.XXX(), u"2|0|9600,n,8,1|Zebra TLP2844|585"_s);
+        QCOMPARE(on.text(u"ComportID"_s), u"0"_s);
     }
 
     void statusCodes()
@@ -419,6 +432,7 @@ private Q_SLOTS:
     {
         Settings on;
         on.oturum.Veritabani->execute(u"Update Firma Set Telefon = Null"_s);
+        on.oturum.Veritabani->execute(u"Update XXX Set comportST = Null"_s);
         const auto phone = [&on] {
             return Settings::row(*on.oturum.Veritabani, u"Select Telefon From Firma"_s);
         };
@@ -438,6 +452,8 @@ private Q_SLOTS:
             on.messages.verify();
             QCOMPARE(phone(), answer == MessageAnswer::Yes ? u" "_s : QString());
         }
+        on.save(); // does not undo it
+        QCOMPARE(on.XXX(), u"2|0| |Zebra TLP2844|585"_s);
         QCOMPARE(backups(on.oturum.Veritabani->path()).first().kind, BackupKind::BeforeRepair);
         const ReportTable fields = on.control<RaporGrid>(u"Alanlar"_s)->table();
         QCOMPARE(fields.columns.size(), 3);
