@@ -2,9 +2,12 @@
 
 #include "EntryControls.h"
 
+#include <algorithm>
 #include <QInputDialog>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -23,11 +26,26 @@ static QMessageBox::Icon boxIcon(MessageIcon icon)
     return QMessageBox::NoIcon;
 }
 
+/// Qt wraps the text at half the screen, and a long question on a small screen
+/// would push its buttons out of it.
+static void widenLongText(QMessageBox &box)
+{
+    constexpr int comfortable = 400;
+    constexpr int aroundText = 160;
+    auto *label = box.findChild<QLabel *>(u"qt_msgbox_label"_s);
+    if (label == nullptr)
+        return;
+    const int widest = label->fontMetrics().size(0, box.text()).width();
+    const int room = box.screen()->availableSize().width() - aroundText;
+    label->setMinimumWidth(std::min({widest, room, comfortable}));
+}
+
 MessageAnswer MessageBoxes::show(QWidget *parent, const Message &message)
 {
     QMessageBox box(boxIcon(message.icon), message.title, message.text, QMessageBox::NoButton,
                     parent);
     box.setTextFormat(Qt::PlainText);
+    widenLongText(box);
     if (message.buttons == MessageButtons::Ok) {
         ignoreHeldEnter(*box.addButton(u"&Tamam"_s, QMessageBox::AcceptRole));
         box.exec();
