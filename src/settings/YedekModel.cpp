@@ -3,7 +3,6 @@
 #include "Dates.h"
 
 #include <QFileInfo>
-#include <QLocale>
 
 using namespace Qt::StringLiterals;
 
@@ -43,8 +42,7 @@ QVariant YedekModel::data(const QModelIndex &index, int role) const
     case kind:
         return backupKindText(backup.kind);
     case size:
-        return QLocale(QLocale::Turkish, QLocale::Turkey)
-            .formattedDataSize(backup.size, 1, QLocale::DataSizeTraditionalFormat);
+        return backupSizeText(backup.size);
     default:
         return QFileInfo(backup.path).fileName();
     }

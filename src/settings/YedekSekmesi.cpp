@@ -176,11 +176,15 @@ void YedekSekmesi::restore()
     if (!done)
         return;
     Q_EMIT restored();
-    m_context.messages.say(this,
-                           u"Yedek geri yüklendi. Önceki veri tabanı burada saklanıyor:\n\n%1\n\n"
-                           "Kullanıcı, yetkiler ve günün kurları için programı kapatıp yeniden "
-                           "açın."_s.arg(QDir::toNativeSeparators(kept)),
-                           MessageIcon::Information);
+    // Nothing was kept of a database that had been removed under the program.
+    const QString place = kept.isEmpty() ? QString()
+                                         : u" Önceki veri tabanı burada saklanıyor:\n\n"_s +
+                                               QDir::toNativeSeparators(kept);
+    m_context.messages.say(
+        this,
+        u"Yedek geri yüklendi."_s + place +
+            u"\n\nKullanıcı, yetkiler ve günün kurları için programı kapatıp yeniden açın."_s,
+        MessageIcon::Information);
 }
 
 /// No screen can work without a database: it opens again, or the program ends.
