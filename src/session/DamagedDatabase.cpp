@@ -14,6 +14,13 @@ namespace {
 
 constexpr auto title = u"Veri tabanı açılamıyor";
 
+/// The trouble and the file it is with, which it may name itself.
+QString troubleWith(const QString &database, const QString &trouble)
+{
+    const QString file = QDir::toNativeSeparators(database);
+    return trouble.contains(database) || trouble.contains(file) ? trouble : trouble + u'\n' + file;
+}
+
 std::optional<BackupFile> findGoodBackup(QWidget *parent, const QString &database)
 {
     StoppableWork work(parent, QString::fromUtf16(title), u"Yedekler denetleniyor..."_s);
@@ -31,12 +38,11 @@ std::optional<QString> offerBackup(QWidget *parent, Messages &messages, const QS
     } catch (const BackupCancelled &) {
         return std::nullopt;
     }
-    const QString file = QDir::toNativeSeparators(database);
     if (!backup.has_value()) {
         messages.say(
             parent,
-            u"%1\n%2\n\nGeri yüklenebilecek sağlam bir yedek bulunamadı. Yedeklerin "
-            "yeri:\n%3"_s.arg(trouble, file, QDir::toNativeSeparators(backupFolder(database))),
+            u"%1\n\nGeri yüklenebilecek sağlam bir yedek bulunamadı. Yedeklerin yeri:\n%2"_s.arg(
+                troubleWith(database, trouble), QDir::toNativeSeparators(backupFolder(database))),
             MessageIcon::Critical, QString::fromUtf16(title));
         return std::nullopt;
     }
@@ -44,10 +50,11 @@ std::optional<QString> offerBackup(QWidget *parent, Messages &messages, const QS
     // would be out of sight.
     const bool wanted = messages.ask(
         parent,
-        u"%1\n%2\n\nDenetimden geçen en yeni yedek:\n%3\n%4, %5, %6\n\nBu yedek geri yüklensin "
+        u"%1\n\nDenetimden geçen en yeni yedek:\n%2\n%3, %4, %5\n\nBu yedek geri yüklensin "
         "mi? Yedekten sonra girilenler onda yoktur; şimdiki dosya silinmez, saklanır."_s.arg(
-            trouble, file, QFileInfo(backup->path).fileName(), backupKindText(backup->kind),
-            backup->made.toString(u"dd.MM.yyyy HH:mm"_s), backupSizeText(backup->size)),
+            troubleWith(database, trouble), QFileInfo(backup->path).fileName(),
+            backupKindText(backup->kind), backup->made.toString(u"dd.MM.yyyy HH:mm"_s),
+            backupSizeText(backup->size)),
         MessageIcon::Critical, QString::fromUtf16(title), MessageAnswer::No);
     return wanted ? std::optional(backup->path) : std::nullopt;
 }

@@ -71,13 +71,13 @@ private:
     {
         for (const BackupFile &file : backups(company())) {
             if (file.path == backup) {
-                return u"%1\n%2\n\nDenetimden geçen en yeni yedek:\n%3\n%4, %5, %6\n\nBu yedek "
-                       u"geri "
+                const QString named =
+                    trouble.endsWith(database) ? trouble : trouble + u'\n' + database;
+                return u"%1\n\nDenetimden geçen en yeni yedek:\n%2\n%3, %4, %5\n\nBu yedek geri "
                        "yüklensin mi? Yedekten sonra girilenler onda yoktur; şimdiki dosya "
-                       "silinmez, saklanır."_s.arg(trouble, database, QFileInfo(backup).fileName(),
-                                                   backupKindText(file.kind),
-                                                   file.made.toString(u"dd.MM.yyyy HH:mm"_s),
-                                                   backupSizeText(file.size));
+                       "silinmez, saklanır."_s.arg(
+                           named, QFileInfo(backup).fileName(), backupKindText(file.kind),
+                           file.made.toString(u"dd.MM.yyyy HH:mm"_s), backupSizeText(file.size));
             }
         }
         return {};
