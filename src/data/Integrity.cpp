@@ -70,6 +70,15 @@ private:
     std::exception_ptr m_failure;
 };
 
+/// What the engine found, one fault a line. It puts a heading that names the
+/// database within the connection before them, which tells a user nothing.
+QStringList faultLines(const QString &found)
+{
+    QStringList lines = found.split(u'\n', Qt::SkipEmptyParts);
+    lines.removeIf([](const QString &line) { return line.startsWith("*** in database"_L1); });
+    return lines;
+}
+
 } // namespace
 
 QStringList integrityFaults(const SqliteEngine &engine, const WorkStage &stage)
@@ -79,7 +88,7 @@ QStringList integrityFaults(const SqliteEngine &engine, const WorkStage &stage)
     try {
         QSqlQuery check = engine.run(u"PRAGMA integrity_check(20)"_s);
         while (engine.next(check))
-            faults.append(check.value(0).toString());
+            faults.append(faultLines(check.value(0).toString()));
     } catch (const DatabaseError &error) {
         watch.rethrow();
         if (watch.stopped())
@@ -105,8 +114,10 @@ void refuseDamaged(const Database &db, std::chrono::milliseconds limit)
     });
     try {
         QSqlQuery check = engine.run(u"PRAGMA quick_check(1)"_s);
-        if (engine.next(check) && check.value(0).toString() != "ok"_L1) {
-            throw DatabaseError(u"Veri tabanı dosyası bozuk. (%1)"_s.arg(check.value(0).toString()),
+        const QStringList faults =
+            engine.next(check) ? faultLines(check.value(0).toString()) : QStringList();
+        if (!faults.isEmpty() && faults != QStringList{u"ok"_s}) {
+            throw DatabaseError(u"Veri tabanı dosyası bozuk. (%1)"_s.arg(faults[0]),
                                 DatabaseError::Cause::FileDamaged);
         }
     } catch (const DatabaseError &error) {

@@ -420,6 +420,16 @@ private Q_SLOTS:
         const Outcome damaged = kuyum({u"denetle"_s, path});
         QCOMPARE(damaged.exitCode, 1);
         QVERIFY2(damaged.output.startsWith(u"DOSYA BOZUK:"_s), qPrintable(damaged.output));
+        // A list of free pages that leads nowhere: a fault a line, under the heading.
+        constexpr qint64 firstFreePage = 35;
+        QVERIFY(file.open(QFile::ReadWrite));
+        file.seek(firstFreePage);
+        file.putChar('\xff');
+        file.close();
+        const QStringList faults = kuyum({u"denetle"_s, path}).output.trimmed().split(u'\n').mid(1);
+        QVERIFY(faults.size() > 1);
+        for (const QString &fault : faults)
+            QVERIFY2(fault.startsWith(u"  "_s) && !fault.contains(u"***"_s), qPrintable(fault));
     }
 
     void aLegacyFileIsTakenOverOnce()
