@@ -1,6 +1,7 @@
 #include "Backup.h"
 #include "BackupCopy.h"
 #include "Database.h"
+#include "Schema.h"
 #include "SqliteEngine.h"
 #include "WholeFile.h"
 
@@ -60,6 +61,11 @@ QString keepCurrent(const BackupPlace &place, const QString &database, const Wor
     try {
         // Takes back a save that was cut off, too.
         const std::unique_ptr<Database> db = Database::open(database);
+        // A slip in what was typed, and every company would be gone.
+        if (db->hasTable(u"SirketKayit"_s) && !isCompany(*db))
+            throw DatabaseError(u"Bu, şirketlerin kayıt dosyası; yerine bir şirketin yedeği "
+                                "konamaz: "_s +
+                                QDir::toNativeSeparators(database));
         // A save is short: who holds the file for longer works with it.
         db->engine().run(u"PRAGMA busy_timeout = 500"_s);
         db->engine().run(u"BEGIN EXCLUSIVE"_s);
@@ -77,9 +83,10 @@ void removeLeftovers(const QString &part)
 {
     const QFileInfo file(part);
     QDir folder = file.dir();
-    const QString pattern = file.fileName() + u'*';
-    for (const QString &name : folder.entryList({pattern}, QDir::Files | QDir::Hidden))
-        folder.remove(name);
+    for (const QString &name : folder.entryList(QDir::Files | QDir::Hidden)) {
+        if (name.startsWith(file.fileName()))
+            folder.remove(name);
+    }
 }
 
 void putInPlace(const QString &part, const QString &database)
