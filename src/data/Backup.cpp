@@ -7,6 +7,7 @@
 #include "Schema.h"
 #include "SqliteEngine.h"
 
+#include <algorithm>
 #include <QDebug>
 #include <QDir>
 #include <QFileInfo>
@@ -41,7 +42,8 @@ private:
     void end()
     {
         try {
-            m_engine.run(u"COMMIT"_s);
+            // Nothing was written; a COMMIT would repeat what reading found.
+            m_engine.run(u"ROLLBACK"_s);
         } catch (const DatabaseError &error) {
             qWarning() << "end of reading:" << error.text();
         }
@@ -166,7 +168,13 @@ void checkBackup(const QString &backup, const WorkProgress &progress)
 
 std::optional<BackupFile> newestGoodBackup(const QString &database, const WorkProgress &progress)
 {
-    for (const BackupFile &backup : backups(database)) {
+    QList<BackupFile> candidates = backups(database);
+    // A clock that ran ahead dated one later than all that were made after it.
+    std::stable_partition(candidates.begin(), candidates.end(),
+                          [now = QDateTime::currentDateTime()](const BackupFile &backup) {
+                              return backup.made <= now;
+                          });
+    for (const BackupFile &backup : candidates) {
         try {
             checkBackup(backup.path, progress);
             return backup;

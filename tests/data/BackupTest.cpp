@@ -27,6 +27,7 @@ private Q_SLOTS:
     void anyChangedByteIsNoticed();
     void restoresAndKeepsTheReplacedOne();
     void restoresOverADamagedOrMissingOne();
+    void aClockThatRanAheadMakesNoNewestBackup();
     void noOldJournalIsPlayedIntoTheRestoredFile();
     void refusesWhatIsNoBackupOfACompany();
     void nothingIsReplacedByARefusedOrStoppedRestore();
@@ -284,6 +285,20 @@ void BackupTest::restoresOverADamagedOrMissingOne()
     QCOMPARE(backups(company()).size(), 1); // a damaged one is no backup
 }
 
+void BackupTest::aClockThatRanAheadMakesNoNewestBackup()
+{
+    const auto dateLater = [&](const QString &backup, int days) {
+        const QString moment = QDate::currentDate().addDays(days).toString(Qt::ISODate);
+        const QString name = path(u"yedek/atolye-%1-120000-gunluk.kuyum"_s.arg(moment));
+        QVERIFY(QFile::rename(backup + u".sha256"_s, name + u".sha256"_s));
+        QVERIFY(QFile::rename(backup, name));
+    };
+    dateLater(makeBackup(*m_db, BackupKind::Daily), 400);
+    QVERIFY(newestGoodBackup(company())->made.date() > QDate::currentDate());
+    const QString newest = makeBackup(*m_db, BackupKind::Daily);
+    QCOMPARE(newestGoodBackup(company())->path, newest);
+}
+
 void BackupTest::noOldJournalIsPlayedIntoTheRestoredFile()
 {
     const QString backup = makeBackup(*m_db, BackupKind::Manual);
@@ -344,6 +359,12 @@ void BackupTest::refusesWhatIsNoBackupOfACompany()
     }
     QCOMPARE(fileBytes(company()), before);
     QCOMPARE(fileBytes(path(u"yarim.kuyum-journal"_s)), "x");
+    // Nor does a company come into the place of the list of companies.
+    const QByteArray registry = fileBytes(path(u"sirket.kuyum"_s));
+    QVERIFY(refusal([&] {
+                restoreBackup(path(u"sirket.kuyum"_s), company());
+            }).contains(u"kayıt dosyası"_s));
+    QCOMPARE(fileBytes(path(u"sirket.kuyum"_s)), registry);
 }
 
 void BackupTest::nothingIsReplacedByARefusedOrStoppedRestore()
