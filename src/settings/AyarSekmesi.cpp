@@ -168,7 +168,15 @@ bool AyarSekmesi::degisti() const
                a.Transferyolu == b.Transferyolu;
     };
     return (m_sirket.has_value() && !samePaths(*m_sirket, typedPaths())) ||
-           (m_ayarlar.has_value() && *m_ayarlar != typedSettings());
+           (m_ayarlar.has_value() && (*m_ayarlar != typedSettings() || numbersTyped()));
+}
+
+/// Also what is no number, and would be read as the one that is stored.
+bool AyarSekmesi::numbersTyped() const
+{
+    return m_ui->TeraziTip->text() != plainNumber(m_ayarlar->TeraziTip) ||
+           m_ui->ComportID->text() != plainNumber(m_ayarlar->ComportID) ||
+           m_ui->txtsabitayar->text() != plainNumber(m_ayarlar->sabitayar);
 }
 
 bool AyarSekmesi::kaydedilebilir() const

@@ -54,6 +54,7 @@ private:
     void showNumbers();
     Sirket typedPaths() const;
     Ayarlar typedSettings() const;
+    bool numbersTyped() const;
     QList<QWidget *> boxes() const;
     bool numbersFit();
     bool numberFits(QLineEdit &box);

@@ -78,6 +78,9 @@ struct Settings : Keyboard
     }
     void press(Qt::Key letter, const QString &button) const
     {
+        // A progress box, which a busy machine shows, leaves no window active.
+        screen->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(screen.get()));
         const QSignalSpy clicks(control<QPushButton>(button), &QPushButton::clicked);
         key(letter, Qt::AltModifier);
         QTRY_COMPARE(clicks.count(), 1);
@@ -288,6 +291,7 @@ private Q_SLOTS:
         QCOMPARE(on.registered(), stored);
 
         // From another tab, the box that is refused comes into sight.
+        on.fill(u"Transferyolu"_s, u"c:\\gelen"_s);
         on.fill(u"ComportID"_s, u"COM3"_s);
         on.key(Qt::Key_D, Qt::AltModifier);
         QTRY_COMPARE(on.focus(), u"Durum1"_s);
