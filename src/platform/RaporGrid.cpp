@@ -3,6 +3,7 @@
 #include "EntryControls.h"
 #include "FixedPitchText.h"
 #include "ListCellDelegate.h"
+#include "ListHeading.h"
 #include "RaporModel.h"
 #include "Theme.h"
 
@@ -42,22 +43,6 @@ protected:
         tint.setAlpha(kind == ReportRowKind::Total ? 56 : 40);
         option->features.setFlag(QStyleOptionViewItem::Alternate, false);
         option->backgroundBrush = tint;
-    }
-};
-
-/// Its texts stand as far from the columns' edges as those of the cells.
-class RaporHeading : public QHeaderView
-{
-public:
-    RaporHeading() : QHeaderView(Qt::Horizontal) { setHighlightSections(false); }
-
-protected:
-    void initStyleOptionForIndex(QStyleOptionHeader *option, int column) const override
-    {
-        QHeaderView::initStyleOptionForIndex(option, column);
-        const QChar thinSpace(0x2009);
-        const bool right = option->textAlignment.testFlag(Qt::AlignRight);
-        option->text = right ? option->text + thinSpace : thinSpace + option->text;
     }
 };
 
@@ -121,7 +106,7 @@ QTableView *RaporGrid::makeView(const QString &name, RaporModel *model)
     view->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     view->verticalHeader()->setDefaultSectionSize(view->fontMetrics().height() +
                                                   ListCellDelegate::lineSpace);
-    view->setHorizontalHeader(new RaporHeading);
+    view->setHorizontalHeader(new ListHeading);
     view->installEventFilter(this);
     connect(view, &QTableView::doubleClicked, this,
             [this, view](const QModelIndex &cell) { activate(view, cell); });

@@ -4,6 +4,7 @@
 #include "Dates.h"
 #include "Guarded.h"
 #include "ListCellDelegate.h"
+#include "ListHeading.h"
 #include "Oturum.h"
 #include "Schema.h"
 #include "StoppableWork.h"
@@ -38,11 +39,11 @@ void YedekSekmesi::setUpList()
 {
     QTableView *list = m_ui->Yedekler;
     list->setModel(m_model);
+    list->setHorizontalHeader(new ListHeading(list));
     list->setItemDelegate(new ListCellDelegate(list));
     list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     list->verticalHeader()->setDefaultSectionSize(list->fontMetrics().height() +
                                                   ListCellDelegate::lineSpace);
-    list->horizontalHeader()->setHighlightSections(false);
     list->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     list->horizontalHeader()->setStretchLastSection(true);
     QPalette quiet = palette();
