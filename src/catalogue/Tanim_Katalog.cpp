@@ -9,9 +9,9 @@
 #include "ReadingProgress.h"
 #include "Theme.h"
 #include "ui_Tanim_Katalog.h"
+#include "WindowSize.h"
 
 #include <QKeyEvent>
-#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -23,9 +23,7 @@ Tanim_Katalog::Tanim_Katalog(const ScreenContext &context, QWidget *parent)
       m_model(new KatalogModel(this))
 {
     m_ui->setupUi(this);
-    constexpr QSize wanted(1120, 720);
-    constexpr QSize windowFrame(10, 60);
-    resize(wanted.boundedTo(screen()->availableSize() - windowFrame));
+    fitToScreen(*this, QSize(1120, 720));
     Ondegerler();
     limitEntries();
     connectControls();

@@ -5,8 +5,7 @@
 #include "Oturum.h"
 #include "PictureFiles.h"
 #include "ui_Tanim_Kalip.h"
-
-#include <QScreen>
+#include "WindowSize.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,9 +16,7 @@ Tanim_Kalip::Tanim_Kalip(const ScreenContext &context, const CameraOpener &openC
       m_ui(std::make_unique<Ui::Tanim_Kalip>())
 {
     m_ui->setupUi(this);
-    constexpr QSize wanted(600, 540);
-    constexpr QSize windowFrame(10, 60);
-    resize(wanted.boundedTo(screen()->availableSize() - windowFrame));
+    fitToScreen(*this, QSize(600, 540));
     m_picture = new ResimAlani({m_ui->KalipResim, m_ui->cmdDosya, m_ui->cmdCek, m_ui->ResimSil},
                                context.messages, this);
     m_picture->setCamera(openCamera, u"KALIP CEK"_s);

@@ -13,6 +13,7 @@
 #include "ProductLabel.h"
 #include "Theme.h"
 #include "ui_Tanim_Model.h"
+#include "WindowSize.h"
 
 #include <QScreen>
 
@@ -85,12 +86,9 @@ void Tanim_Model::setUpControls(const CameraOpener &openCamera)
 
 void Tanim_Model::setUpLook()
 {
-    constexpr QSize wanted(940, 640);
-    constexpr QSize windowFrame(10, 60);
-    const QSize available = screen()->availableSize();
-    resize(wanted.boundedTo(available - windowFrame));
+    fitToScreen(*this, QSize(940, 640));
     constexpr int smallScreen = 600;
-    m_pixelsPerUnit = available.height() < smallScreen ? 1 : 2;
+    m_pixelsPerUnit = screen()->availableSize().height() < smallScreen ? 1 : 2;
 
     QPalette warning = palette();
     warning.setColor(QPalette::WindowText, themeColors(warning).mark);

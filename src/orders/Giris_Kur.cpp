@@ -7,6 +7,7 @@
 #include "Oturum.h"
 #include "Theme.h"
 #include "ui_Giris_Kur.h"
+#include "WindowSize.h"
 
 #include <QKeyEvent>
 #include <QScreen>
@@ -37,9 +38,7 @@ Giris_Kur::~Giris_Kur() = default;
 
 void Giris_Kur::setUpLook()
 {
-    constexpr int wanted = 460;
-    constexpr int windowFrame = 60;
-    resize(width(), std::min(wanted, screen()->availableSize().height() - windowFrame));
+    fitToScreen(*this, QSize(width(), 460));
     QPalette quiet = palette();
     quiet.setColor(QPalette::WindowText, themeColors(quiet).muted);
     m_ui->kurNotu->setPalette(quiet);

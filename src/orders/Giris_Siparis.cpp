@@ -8,9 +8,9 @@
 #include "SiparisModel.h"
 #include "Theme.h"
 #include "ui_Giris_Siparis.h"
+#include "WindowSize.h"
 
 #include <QKeyEvent>
-#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -42,9 +42,7 @@ Giris_Siparis::~Giris_Siparis() = default;
 void Giris_Siparis::setUpLook()
 {
     // An order wants width and height; a quarter of the largest screens is enough.
-    constexpr QSize wanted(1500, 950);
-    constexpr QSize windowFrame(10, 60);
-    resize(wanted.boundedTo(screen()->availableSize() - windowFrame));
+    fitToScreen(*this, QSize(1500, 950));
     QPalette warning = m_ui->warningLine->palette();
     warning.setColor(QPalette::WindowText, themeColors(palette()).mark);
     m_ui->warningLine->setPalette(warning);

@@ -5,8 +5,8 @@
 #include "Oturum.h"
 #include "ui_Rapor_Genel.h"
 #include "UretimSekmesi.h"
+#include "WindowSize.h"
 
-#include <QScreen>
 #include <QScrollArea>
 #include <QShortcut>
 
@@ -42,9 +42,7 @@ Rapor_Genel::Rapor_Genel(const RaporContext &context, QWidget *parent)
     m_ui->setupUi(this);
     m_ui->GenelTab->addTab(scrollable(m_kontrol), u"SIPARIS KONTROL"_s);
     m_ui->GenelTab->addTab(scrollable(m_uretim), u"URETIM RAPORU"_s);
-    constexpr QSize wanted(1500, 950);
-    constexpr QSize windowFrame(10, 60);
-    resize(wanted.boundedTo(screen()->availableSize() - windowFrame));
+    fitToScreen(*this, QSize(1500, 950));
     if (context.oturum.RaporTuru == u"URETIM RAPORU")
         m_ui->GenelTab->setCurrentIndex(reportTab);
     connect(m_ui->GenelTab, &QTabWidget::currentChanged, this, &Rapor_Genel::showTab);

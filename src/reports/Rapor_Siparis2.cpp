@@ -7,6 +7,7 @@
 #include "Rapor_Satirlar.h"
 #include "SiparisAlanlari.h"
 #include "ui_Rapor_Siparis2.h"
+#include "WindowSize.h"
 
 using namespace Qt::StringLiterals;
 

@@ -8,6 +8,7 @@
 #include "ReportPictures.h"
 #include "SiparisAlanlari.h"
 #include "ui_Rapor_Ymamul.h"
+#include "WindowSize.h"
 
 using namespace Qt::StringLiterals;
 

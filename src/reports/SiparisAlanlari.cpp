@@ -6,7 +6,6 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -78,10 +77,4 @@ void makeNote(QLabel &note)
     note.setPalette(palette);
     note.setWordWrap(true);
     note.hide();
-}
-
-void fitToScreen(QWidget &window, QSize wanted)
-{
-    constexpr QSize windowFrame(10, 60);
-    window.resize(wanted.boundedTo(window.screen()->availableSize() - windowFrame));
 }

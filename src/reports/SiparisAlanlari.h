@@ -36,6 +36,3 @@ private:
 
 /// Sets a note in the colour of what must not be overlooked.
 void makeNote(QLabel &note);
-
-/// Gives a window its size, as far as the screen allows.
-void fitToScreen(QWidget &window, QSize wanted);

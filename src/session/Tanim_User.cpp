@@ -7,8 +7,7 @@
 #include "Theme.h"
 #include "TurkishText.h"
 #include "ui_Tanim_User.h"
-
-#include <QScreen>
+#include "WindowSize.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,9 +17,7 @@ Tanim_User::Tanim_User(const ScreenContext &context, QWidget *parent)
       m_ui(std::make_unique<Ui::Tanim_User>())
 {
     m_ui->setupUi(this);
-    constexpr QSize wanted(860, 640);
-    constexpr QSize windowFrame(10, 60);
-    resize(wanted.boundedTo(screen()->availableSize() - windowFrame));
+    fitToScreen(*this, QSize(860, 640));
     setUpControls();
     setUpForm({.table = u"Users"_s,
                .parts = partsOf(*m_ui),

@@ -10,13 +10,13 @@
 #include "TakeOver.h"
 #include "Theme.h"
 #include "ui_Dosya_Yenile.h"
+#include "WindowSize.h"
 #include "Yenileme.h"
 
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QKeyEvent>
-#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -103,9 +103,7 @@ Dosya_Yenile::Dosya_Yenile(const ScreenContext &context, QWidget *parent)
       m_chooseTarget(saveTargetDialog)
 {
     m_ui->setupUi(this);
-    constexpr QSize wanted(1000, 640);
-    constexpr QSize windowFrame(10, 60);
-    resize(wanted.boundedTo(screen()->availableSize() - windowFrame));
+    fitToScreen(*this, QSize(1000, 640));
     m_ui->durum->addPermanentWidget(m_table);
     m_ui->FarklarLabel->setBuddy(m_ui->Farklar->rows());
     QPalette quiet = palette();

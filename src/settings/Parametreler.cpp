@@ -7,10 +7,10 @@
 #include "Guarded.h"
 #include "Theme.h"
 #include "ui_Parametreler.h"
+#include "WindowSize.h"
 #include "YedekSekmesi.h"
 
 #include <QKeyEvent>
-#include <QScreen>
 #include <QShortcut>
 
 using namespace Qt::StringLiterals;
@@ -28,9 +28,7 @@ Parametreler::Parametreler(const ScreenContext &context, const ParametreServices
     m_ui->setupUi(this);
     setUpTabs();
     connectControls();
-    constexpr QSize wanted(900, 560);
-    constexpr QSize windowFrame(10, 60);
-    resize(wanted.boundedTo(screen()->availableSize() - windowFrame));
+    fitToScreen(*this, QSize(900, 560));
     load();
 }
 
