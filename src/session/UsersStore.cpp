@@ -151,7 +151,9 @@ void UsersStore::remove(qint32 User_ID)
 
 std::optional<QString> clearPassword(const Kullanici &user)
 {
-    if (!user.user_pass.has_value())
+    // The repair leaves a blank where there was none; nobody can type what that
+    // would stand for.
+    if (!user.user_pass.has_value() || *user.user_pass == " "_L1)
         return std::nullopt;
     try {
         return SifreCoz(*user.user_pass);

@@ -259,6 +259,13 @@ private Q_SLOTS:
         last.press(Qt::Key_S, u"cmdsil"_s);
         last.messages.verify();
         QCOMPARE(last.everything(), before);
+
+        // A missing password is a blank after a repair, and none all the same.
+        last.run(u"Update Users Set user_pass = ' ' Where user_pass Is Null"_s);
+        last.expectWarning(u"KULLANICI TANIMLARINA GİREBİLEN BAŞKA KULLANICI YOK, "
+                           "BU KULLANICI SİLİNEMEZ..."_s);
+        last.press(Qt::Key_S, u"cmdsil"_s);
+        last.messages.verify();
     }
 
     void removesTheUserWithHisRights()
