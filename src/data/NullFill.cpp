@@ -97,6 +97,16 @@ qint64 nullsLeft(const SqliteEngine &engine, const QString &table, const Gap &ga
 
 } // namespace
 
+qint64 filledNulls(const QList<FilledTable> &tables)
+{
+    qint64 sum = 0;
+    for (const FilledTable &table : tables) {
+        for (const FilledField &field : table.fields)
+            sum += field.filled;
+    }
+    return sum;
+}
+
 FilledTable fillNulls(Database &db, const QString &table,
                       const std::function<void(qint64 rows)> &rowsDone)
 {

@@ -20,6 +20,9 @@ struct FilledTable
     QList<FilledField> fields = {}; ///< those that had a null
 };
 
+/// How many nulls of all these tables hold the neutral value now.
+qint64 filledNulls(const QList<FilledTable> &tables);
+
 /// Gives every null of the table's rows the neutral value of its field's type;
 /// nothing else is changed. Runs within the caller's transaction. rowsDone is
 /// told now and then how many rows are behind; what it throws ends the work.

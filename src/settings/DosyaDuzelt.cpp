@@ -19,12 +19,7 @@ QList<AlanSatiri> alanlar(const TableDef &table)
 
 qint64 RepairResult::filled() const
 {
-    qint64 sum = 0;
-    for (const FilledTable &table : tables) {
-        for (const FilledField &field : table.fields)
-            sum += field.filled;
-    }
-    return sum;
+    return filledNulls(tables);
 }
 
 QString RepairResult::text() const

@@ -51,7 +51,8 @@ QString RefreshResult::text() const
         u"%1 tablo güncellendi; %2 yeni tablo, %3 yeni alan, %4 genişletilen alan."_s.arg(tables)
             .arg(newTables)
             .arg(newFields)
-            .arg(widenedFields)};
+            .arg(widenedFields),
+        u"%1 boş alan dolduruldu."_s.arg(filledNulls(filled))};
     for (const QString &table : failed)
         lines.append(u"%1: güncellenemedi, olduğu gibi duruyor."_s.arg(table));
     for (const FieldDifference &difference : left) {
