@@ -120,7 +120,8 @@ TableDef Database::tableDef(const QString &name) const
     if (!m_engine->next(own))
         throw DatabaseError(u"Tablo bulunamadı: "_s + name);
     table.name = own.value(0).toString();
-    const bool hasCounter = own.value(1).toString().contains("AUTOINCREMENT"_L1);
+    const bool hasCounter =
+        own.value(1).toString().contains("AUTOINCREMENT"_L1, Qt::CaseInsensitive);
 
     QString counterName;
     QSqlQuery fields = m_engine->run(
@@ -201,9 +202,12 @@ void Database::createIndex(const QString &table, const IndexDef &index)
 
 void Database::dropIndexes(const QString &table)
 {
-    // Only what was made by a statement: the engine keeps those of its own.
-    QSqlQuery made = m_engine->run(u"SELECT name FROM pragma_index_list(?) WHERE origin = 'c'"_s,
-                                   {tableDef(table).name});
+    // Only what was made by a statement: the engine keeps those of its own. One
+    // over a part of the rows or a computed value could not be made again.
+    QSqlQuery made = m_engine->run(
+        u"SELECT name FROM pragma_index_list(?) AS i WHERE origin = 'c' AND NOT partial AND NOT "
+        "EXISTS (SELECT 1 FROM pragma_index_info(i.name) AS f WHERE f.name IS NULL)"_s,
+        {tableDef(table).name});
     QStringList names;
     while (m_engine->next(made))
         names.append(made.value(0).toString());

@@ -43,7 +43,7 @@ public:
     void createTable(const TableDef &table);
     void addField(const QString &table, const FieldDef &field);
     void createIndex(const QString &table, const IndexDef &index);
-    /// Removes all indexes of a table; a counter stays its key.
+    /// Removes the indexes that tableDef() tells in full; a counter stays its key.
     void dropIndexes(const QString &table);
     /// The counter's next number will be higher than this one.
     void raiseCounter(const QString &table, qint64 highest);

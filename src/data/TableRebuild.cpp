@@ -7,6 +7,8 @@
 #include "RowSlices.h"
 #include "SqliteEngine.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -57,6 +59,34 @@ RowChecksum checksumOf(const SqliteEngine &engine, const QStringList &columns, c
     return checksum;
 }
 
+/// Whether another program gave the table what a TableDef cannot tell, and what
+/// would be lost with the old table: rules, computed fields, triggers, indexes
+/// over a part of the rows.
+bool hasForeignRules(const SqliteEngine &engine, const QString &table)
+{
+    static const QRegularExpression quoted(uR"(\[[^\]]*\]|"[^"]*"|`[^`]*`|'[^']*')"_s);
+    static const QRegularExpression rules(
+        uR"(\b(CHECK|REFERENCES|AS|NOT\s+NULL|WITHOUT|STRICT)\b|\bDEFAULT\s*[^-+\s\dN]|)"
+        uR"(\bINTEGER\s+PRIMARY\s+KEY(?!\s+AUTOINCREMENT)|\bPRIMARY\s+KEY\s*\()"_s,
+        QRegularExpression::CaseInsensitiveOption);
+    QSqlQuery made =
+        engine.run(u"SELECT sql FROM sqlite_master WHERE type = 'table' AND name = ?"_s, {table});
+    engine.next(made);
+    if (made.value(0).toString().replace(quoted, u"0"_s).contains(rules))
+        return true;
+    QSqlQuery beside = engine.run(
+        u"SELECT count(*) FROM sqlite_master WHERE type = 'trigger' AND tbl_name = ? COLLATE "
+        u"NOCASE "
+        "UNION ALL SELECT count(*) FROM pragma_index_list(?) AS i WHERE i.partial OR EXISTS "
+        "(SELECT 1 FROM pragma_index_info(i.name) AS f WHERE f.name IS NULL)"_s,
+        {table, table});
+    while (engine.next(beside)) {
+        if (beside.value(0).toInt() > 0)
+            return true;
+    }
+    return false;
+}
+
 qint64 highestGiven(const SqliteEngine &engine, const QString &table)
 {
     QSqlQuery sequence =
@@ -72,6 +102,10 @@ void rebuildTable(Database &db, const TableDef &wanted,
 {
     const SqliteEngine &engine = db.engine();
     const TableDef present = db.tableDef(wanted.name);
+    if (hasForeignRules(engine, present.name)) {
+        throw DatabaseError(u"\"%1\" tablosunda başka bir programın koyduğu kurallar var; tablo "
+                            "yeniden kurulursa bunlar kaybolur."_s.arg(present.name));
+    }
     const Columns columns = columnsOf(present, wanted);
     TableDef interim = wanted;
     interim.name = interimName();

@@ -10,7 +10,8 @@ struct TableDef;
 /// type or size, and possibly a counter that it lacked, which takes the rows'
 /// own numbers. The rows keep their values, their order and the counter's next
 /// number, which is proved value by value; a value that the new type does not
-/// hold gives a DatabaseError. The table's indexes are gone afterwards.
+/// hold gives a DatabaseError, and so does a table with rules of another program
+/// that would be lost. The table's indexes are gone afterwards.
 ///
 /// Runs within the caller's transaction, which is undone after a failure.
 /// rowsDone is told now and then; what it throws ends the work.

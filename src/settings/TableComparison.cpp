@@ -66,6 +66,18 @@ void compareFields(const TableDef &present, TableComparison &comparison)
     }
 }
 
+/// The chosen table's indexes over the working table's fields. The engine knows
+/// only the Latin letters' cases: to it ÖLÇÜ is no name of the field Ölçü.
+void nameFieldsAsPresent(const TableDef &present, QList<IndexDef> &indexes)
+{
+    for (IndexDef &index : indexes) {
+        for (QString &name : index.fields) {
+            if (const FieldDef *field = present.field(name))
+                name = field->name;
+        }
+    }
+}
+
 } // namespace
 
 QString TableComparison::text() const
@@ -82,8 +94,11 @@ QList<TableComparison> Kontrol_Et(const Database &db, const QList<TableDef> &cho
         const QString same = nameOfSame(present, table.name);
         comparison.isNew = same.isEmpty();
         comparison.name = comparison.isNew ? table.name : same;
-        if (!comparison.isNew)
-            compareFields(db.tableDef(same), comparison);
+        if (!comparison.isNew) {
+            const TableDef present = db.tableDef(same);
+            compareFields(present, comparison);
+            nameFieldsAsPresent(present, comparison.theirs.indexes);
+        }
         tables.append(comparison);
     }
     return tables;

@@ -22,6 +22,7 @@ private Q_SLOTS:
     void everyValueThatStoodStands();
     void everyKeyAndIndexIsThere();
     void oneTableFails();
+    void whatOtherProgramsMadeStays();
     void sourcesThatAreRefused();
     void legacySourceTellsItsOwnTables();
     void newDatabaseHasAllButRows();
@@ -202,6 +203,42 @@ void YenilemeTest::oneTableFails()
     QVERIFY(db.tableDef(u"Ayar"_s).field(u"Ad") == nullptr);
     QVERIFY(db.hasTable(u"Depo"_s));
     compareKept(before, storedTables(db));
+}
+
+void YenilemeTest::whatOtherProgramsMadeStays()
+{
+    const OrderFixture company;
+    Database &db = *company.oturum.Veritabani;
+    const QStringList made = {
+        u"CREATE TABLE [Ölçü] ([Çap] TEXT(5), [Ağırlık] LONG DEFAULT 3)"_s,
+        u"CREATE UNIQUE INDEX kismi ON [Ölçü] ([Ağırlık]) WHERE [Ağırlık] > 5"_s,
+        u"CREATE INDEX ifade ON [Ölçü] (lower([Çap]))"_s,
+        u"CREATE TABLE Kural (No integer primary key, Ad TEXT(5) CHECK (Ad <> 'x'))"_s,
+        u"CREATE TABLE Sayac (No integer primary key autoincrement, Ad TEXT(5))"_s,
+        u"CREATE TABLE Sade (Ad TEXT(5) DEFAULT 'check', [check] LONG DEFAULT -1)"_s,
+        u"CREATE TABLE Izli (Ad TEXT(5))"_s,
+        u"CREATE TRIGGER iz AFTER INSERT ON Izli BEGIN SELECT 1; END"_s};
+    for (const QString &sql : made)
+        db.engine().run(sql);
+    const FieldDef name = {u"Ad"_s, FieldType::Text, 9};
+    const QList<TableDef> chosen = {
+        {u"ÖLÇÜ"_s, {{u"ÇAP"_s, FieldType::Text, 5}}, {{u"cap"_s, {u"ÇAP"_s}}}},
+        {u"Kural"_s, {name}},
+        {u"Sayac"_s, {name}},
+        {u"Sade"_s, {name}},
+        {u"Izli"_s, {name}}};
+    const RefreshResult result = Yenileme(db, {}, [](auto...) { return true; }).yenile(chosen);
+
+    // A table that would lose something, made anew, stays; the others do not.
+    QCOMPARE(result.failed, (QStringList{u"Kural"_s, u"Izli"_s}));
+    const QString after = definitions(db);
+    for (const qsizetype kept : {1, 2, 3, 6, 7})
+        QVERIFY2(after.contains(made[kept]), qPrintable(made[kept]));
+    // The chosen index is over the field as it is written here.
+    QVERIFY(after.contains(u"CREATE INDEX [Ölçü.ix.cap] ON [Ölçü] ([Çap])"_s));
+    QVERIFY(db.tableDef(u"Sayac"_s).counter() != nullptr);
+    QCOMPARE(db.tableDef(u"Sayac"_s).textLimit(u"Ad"), 9);
+    QCOMPARE(db.tableDef(u"Sade"_s).textLimit(u"Ad"), 9);
 }
 
 void YenilemeTest::sourcesThatAreRefused()
