@@ -1,4 +1,5 @@
 #include "Messages.h"
+#include "StoppableWork.h"
 #include "TestRegistry.h"
 #include "Typing.h"
 
@@ -32,6 +33,25 @@ private Q_SLOTS:
             QVERIFY(stays);
             QCOMPARE(answer, defaultAnswer);
         }
+    }
+
+    void enterTypedAheadStopsNoLongWork()
+    {
+        StoppableWork work(nullptr, u"Günlük yedek"_s, u"Yedek alınıyor..."_s);
+        const auto progress = work.progress();
+        QVERIFY(progress(1, 10));
+        QProgressDialog *box = nullptr;
+        for (QWidget *window : QApplication::topLevelWidgets()) {
+            if (auto *found = qobject_cast<QProgressDialog *>(window))
+                box = found;
+        }
+        QVERIFY(box != nullptr);
+        box->show();
+        QVERIFY(QTest::qWaitForWindowActive(box));
+        QTest::keyClick(box->focusWidget(), Qt::Key_Return);
+        QVERIFY(progress(2, 10));
+        QTest::keyClick(box->focusWidget(), Qt::Key_Escape);
+        QVERIFY(!progress(3, 10));
     }
 };
 
