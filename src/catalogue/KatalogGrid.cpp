@@ -90,9 +90,11 @@ void KatalogGrid::keyPressEvent(QKeyEvent *event)
         Q_EMIT rowWanted();
     else if (isEnter(*event) && currentIndex().flags().testFlag(Qt::ItemIsEditable))
         edit(currentIndex());
-    else if (isEnter(*event) && row >= 0)
+    else if (isEnter(*event) && row >= 0) {
+        // The whole row is marked: where the cursor stands in it is not seen.
         setCurrentIndex(currentIndex().siblingAtColumn(KatalogModel::gramColumn));
-    else if (isEnter(*event) || key == Qt::Key_Escape)
+        edit(currentIndex());
+    } else if (isEnter(*event) || key == Qt::Key_Escape)
         event->ignore(); // the screen's
     else
         QTableView::keyPressEvent(event);

@@ -155,8 +155,7 @@ private Q_SLOTS:
         QCOMPARE(on.rows(), QStringList({u"İnci-1 1.10 "_s, u"A75 2.10 yeni"_s}));
         QCOMPARE(on.grid()->currentIndex().row(), 1);
 
-        on.key(Qt::Key_Return); // from the model, which stays, to the weight
-        on.key(Qt::Key_Return);
+        on.key(Qt::Key_Return); // on the model, which stays: the weight
         on.enter({u"2,5"_s});
         QTRY_COMPARE(on.rows().last(), u"A75 2.50 yeni"_s);
 
