@@ -4,6 +4,7 @@
 #include "CommandLine.h"
 #include "Display.h"
 #include "Emblem.h"
+#include "EntryControls.h"
 #include "Guarded.h"
 #include "MenuTable.h"
 #include "Oturum.h"
@@ -132,6 +133,7 @@ int runProgram(int &argc, char **argv)
     QTranslator translator;
     speakTurkish(application, translator);
     applyTheme(application);
+    ignoreIdleMnemonics(application);
     QGuiApplication::setWindowIcon(emblemIcon());
     return runSession(application, messages, *registry);
 }

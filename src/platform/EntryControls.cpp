@@ -155,6 +155,33 @@ void ignoreHeldEnter(QPushButton &button)
     button.installEventFilter(new HeldEnter(&button));
 }
 
+namespace {
+
+class IdleMnemonics : public QObject
+{
+public:
+    using QObject::QObject;
+
+    /// What a mnemonic answers to does not come this far.
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::KeyPress && qobject_cast<QLineEdit *>(watched) != nullptr) {
+            const auto *key = static_cast<QKeyEvent *>(event);
+            if (key->modifiers().testFlag(Qt::AltModifier) && !key->text().isEmpty() &&
+                key->text().front().isPrint() && !typesCharacter(*key))
+                return true;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
+} // namespace
+
+void ignoreIdleMnemonics(QCoreApplication &application)
+{
+    application.installEventFilter(new IdleMnemonics(&application));
+}
+
 template <typename Paint>
 static void paintRow(QAbstractItemView &grid, Paint paint)
 {

@@ -6,6 +6,7 @@ class Messages;
 class QAbstractItemView;
 class QColor;
 class QComboBox;
+class QCoreApplication;
 class QKeyEvent;
 class QLineEdit;
 class QPushButton;
@@ -41,6 +42,9 @@ bool typesCharacter(const QKeyEvent &event);
 bool isEnter(const QKeyEvent &event);
 /// Lets an Enter that is held down press the button but once.
 void ignoreHeldEnter(QPushButton &button);
+/// Keeps Alt with the letter of a button that is grey from typing the letter
+/// into the box that has the focus.
+void ignoreIdleMnemonics(QCoreApplication &application);
 
 /// Puts the selected cells of a grid into the clipboard, or else the current
 /// one: a line for each row, tabs between the columns that are shown.

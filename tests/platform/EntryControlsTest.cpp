@@ -17,6 +17,7 @@ private Q_SLOTS:
     void selectionOnEntry();
     void listSelection();
     void rowMarks();
+    void idleMnemonicTypesNothing();
     void dateBoxCompletesWhatIsADate();
 };
 
@@ -110,6 +111,20 @@ void EntryControlsTest::rowMarks()
     SatirYaziRenk(grid);
     QVERIFY(!grid.item(1, 2)->data(Qt::ForegroundRole).isValid());
     QVERIFY(!grid.item(1, 2)->font().bold());
+}
+
+void EntryControlsTest::idleMnemonicTypesNothing()
+{
+    ignoreIdleMnemonics(*QCoreApplication::instance());
+    QLineEdit box;
+    const auto press = [&box](Qt::KeyboardModifiers modifiers) {
+        QKeyEvent key(QEvent::KeyPress, Qt::Key_K, modifiers, u"k"_s);
+        QApplication::sendEvent(&box, &key);
+        return box.text();
+    };
+    QCOMPARE(press(Qt::AltModifier), QString());
+    QCOMPARE(press(Qt::ControlModifier | Qt::AltModifier), u"k"_s); // AltGr
+    QCOMPARE(press(Qt::NoModifier), u"kk"_s);
 }
 
 void EntryControlsTest::dateBoxCompletesWhatIsADate()
