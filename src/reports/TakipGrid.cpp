@@ -5,6 +5,7 @@
 #include "Dates.h"
 #include "EntryControls.h"
 #include "ListCellDelegate.h"
+#include "ListHeading.h"
 #include "Messages.h"
 #include "TakipModel.h"
 #include "Twips.h"
@@ -54,9 +55,9 @@ TakipGrid::TakipGrid(QWidget *parent)
     setTabKeyNavigation(false);
     setCornerButtonEnabled(false);
     setWordWrap(false);
+    setHorizontalHeader(new ListHeading(this));
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + ListCellDelegate::lineSpace);
-    horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(true);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &TakipGrid::sortBy);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, &TakipGrid::placeEditor);

@@ -4,6 +4,7 @@
 #include "DocumentViewer.h"
 #include "EntryControls.h"
 #include "Guarded.h"
+#include "ListHeading.h"
 #include "LookupModel.h"
 #include "ModelPaneli.h"
 #include "Numbers.h"
@@ -69,11 +70,11 @@ void UretimSekmesi::setUpList()
     QTableView *list = m_ui->Rapor0;
     list->setModel(m_secim);
     list->setItemDelegate(new SecimDelegate(list));
+    list->setHorizontalHeader(new ListHeading(list));
     list->installEventFilter(this);
     list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     list->verticalHeader()->setDefaultSectionSize(list->fontMetrics().height() +
                                                   ListCellDelegate::lineSpace);
-    list->horizontalHeader()->setHighlightSections(false);
     list->horizontalHeader()->setSectionsClickable(true);
     m_ui->splitter->setStretchFactor(0, 5);
     m_ui->splitter->setStretchFactor(1, 4);

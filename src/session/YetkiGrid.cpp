@@ -2,6 +2,7 @@
 
 #include "EntryControls.h"
 #include "ListCellDelegate.h"
+#include "ListHeading.h"
 #include "Theme.h"
 
 #include <QHeaderView>
@@ -23,6 +24,7 @@ YetkiGrid::YetkiGrid(QWidget *parent) : QTableView(parent), m_model(new QStandar
     m_model->horizontalHeaderItem(MenuTanimi)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setModel(m_model);
     setItemDelegate(new ListCellDelegate(this));
+    setHorizontalHeader(new ListHeading(this));
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
     setSelectionBehavior(SelectRows);
@@ -31,7 +33,6 @@ YetkiGrid::YetkiGrid(QWidget *parent) : QTableView(parent), m_model(new QStandar
     setWordWrap(false);
     verticalHeader()->hide();
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + ListCellDelegate::lineSpace);
-    horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(true);
     setColumnWidth(No, fontMetrics().averageCharWidth() * 8);
 }
