@@ -3,6 +3,7 @@
 #include "LegacyPath.h"
 #include "RegistryPaths.h"
 #include "Schema.h"
+#include "UsersStore.h"
 
 #include <QFileInfo>
 
@@ -56,9 +57,13 @@ bool ParametreStore::acikOlan(const QString &DataYolu) const
 
 bool ParametreStore::girisYapilabilir(Database &db)
 {
-    return db
-        .query(u"Select Top 1 User_ID From Users Where User_Sil = 0 and user_pass Is Not Null"_s)
-        .next();
+    Recordset users =
+        db.query(u"Select user_pass From Users Where User_Sil = 0 and user_pass Is Not Null"_s);
+    while (users.next()) {
+        if (clearPassword({.user_pass = users.text(u"user_pass")}))
+            return true;
+    }
+    return false;
 }
 
 void ParametreStore::yollariDegistir(const Sirket &yollar, std::unique_ptr<Database> yeni)
