@@ -1,25 +1,42 @@
 #include "ProcessLock.h"
 
 #include <QDateTime>
+#include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QLockFile>
+#include <QThread>
 
-/// A process that ends between making the file and writing its own name into it
-/// leaves an empty one, which no process can ever be found dead for.
-static bool removeNameless(const QString &path)
+namespace {
+
+/// More than a process needs to write its name into the file it has made.
+constexpr int millisecondsToWrite = 1000;
+
+bool isNameless(const QString &path)
 {
-    constexpr int secondsToWrite = 2;
     const QFileInfo file(path);
-    return file.isFile() && file.size() == 0 &&
-           file.lastModified().secsTo(QDateTime::currentDateTime()) > secondsToWrite &&
-           QFile::remove(path);
+    return file.isFile() && file.size() == 0;
 }
+
+bool isAbandoned(const QString &path)
+{
+    const qint64 age = QFileInfo(path).lastModified().msecsTo(QDateTime::currentDateTime());
+    return qAbs(age) > millisecondsToWrite; // a clock that was set back gives less than 0
+}
+
+} // namespace
 
 bool takeProcessLock(QLockFile &lock)
 {
+    constexpr int millisecondsBetween = 20;
     lock.setStaleLockTime(0);
-    if (lock.tryLock(0))
-        return true;
-    return lock.error() == QLockFile::LockFailedError && removeNameless(lock.fileName()) &&
-           lock.tryLock(0);
+    const QDeadlineTimer patience(3 * millisecondsToWrite);
+    while (!lock.tryLock(0)) {
+        const QString path = lock.fileName();
+        if (lock.error() != QLockFile::LockFailedError || !isNameless(path) ||
+            patience.hasExpired())
+            return false;
+        if (!isAbandoned(path) || !QFile::remove(path))
+            QThread::msleep(millisecondsBetween);
+    }
+    return true;
 }
