@@ -6,15 +6,23 @@
 #include <QLockFile>
 #include <QThread>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// More than a process needs to write its name into the file it has made.
 constexpr int millisecondsToWrite = 1000;
 
-bool isNameless(const QString &path)
+/// Of the lock's file and those by which QLockFile guards the removal of an
+/// abandoned one, the first that has no name in it; empty when each has.
+QString namelessFile(QString path)
 {
-    const QFileInfo file(path);
-    return file.isFile() && file.size() == 0;
+    for (QFileInfo file(path); file.isFile(); file.setFile(path)) {
+        if (file.size() == 0)
+            return path;
+        path += ".rmlock"_L1;
+    }
+    return {};
 }
 
 bool isAbandoned(const QString &path)
@@ -31,11 +39,11 @@ bool takeProcessLock(QLockFile &lock)
     lock.setStaleLockTime(0);
     const QDeadlineTimer patience(3 * millisecondsToWrite);
     while (!lock.tryLock(0)) {
-        const QString path = lock.fileName();
-        if (lock.error() != QLockFile::LockFailedError || !isNameless(path) ||
+        const QString nameless = namelessFile(lock.fileName());
+        if (lock.error() != QLockFile::LockFailedError || nameless.isEmpty() ||
             patience.hasExpired())
             return false;
-        if (!isAbandoned(path) || !QFile::remove(path))
+        if (!isAbandoned(nameless) || !QFile::remove(nameless))
             QThread::msleep(millisecondsBetween);
     }
     return true;

@@ -13,6 +13,7 @@ class ProcessLockTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void anAbandonedFileWithoutANameCountsForNothing_data();
     void anAbandonedFileWithoutANameCountsForNothing();
     void aHeldLockCountsHoweverOld();
 };
@@ -25,14 +26,27 @@ static void makeOld(const QString &path)
                              QFileDevice::FileModificationTime));
 }
 
+void ProcessLockTest::anAbandonedFileWithoutANameCountsForNothing_data()
+{
+    QTest::addColumn<QByteArray>("holder");
+    QTest::newRow("while the lock was made") << QByteArray();
+    // A process that is gone, whose lock the next one was about to remove.
+    QTest::newRow("while an old lock was removed") << QByteArray("999999999\nkuyum\n");
+}
+
 void ProcessLockTest::anAbandonedFileWithoutANameCountsForNothing()
 {
+    QFETCH(QByteArray, holder);
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"a.kilit"_s);
-    QFile empty(path);
-    QVERIFY(empty.open(QFile::WriteOnly));
-    empty.close();
-    makeOld(path);
+    const QString empty = holder.isEmpty() ? path : path + u".rmlock"_s;
+    for (const QString &name : {path, empty}) {
+        QFile file(name);
+        QVERIFY(file.open(QFile::WriteOnly));
+        file.write(name == empty ? QByteArray() : holder);
+        file.close();
+        makeOld(name);
+    }
     QLockFile lock(path);
     QVERIFY(takeProcessLock(lock));
 }
