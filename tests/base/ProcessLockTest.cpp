@@ -49,6 +49,8 @@ void ProcessLockTest::anAbandonedFileWithoutANameCountsForNothing()
     }
     QLockFile lock(path);
     QVERIFY(takeProcessLock(lock));
+    lock.unlock();
+    QVERIFY(QDir(folder.path()).isEmpty());
 }
 
 void ProcessLockTest::aHeldLockCountsHoweverOld()
