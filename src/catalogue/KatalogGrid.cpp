@@ -1,5 +1,6 @@
 #include "KatalogGrid.h"
 
+#include "EditorDelegate.h"
 #include "EntryControls.h"
 #include "KatalogModel.h"
 
@@ -7,16 +8,15 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QStyledItemDelegate>
 
 namespace {
 
 /// The editors of weight and remark.
-class KatalogDelegate : public QStyledItemDelegate
+class KatalogDelegate : public EditorDelegate
 {
 public:
     KatalogDelegate(Messages &messages, int remarkLimit, QObject *parent)
-        : QStyledItemDelegate(parent), m_messages(messages), m_remarkLimit(remarkLimit)
+        : EditorDelegate(parent), m_messages(messages), m_remarkLimit(remarkLimit)
     {
     }
 
@@ -65,11 +65,9 @@ void KatalogGrid::goTo(int row)
     setCurrentIndex(m_model->index(std::min(row, m_model->rowCount() - 1), column));
 }
 
-/// Going elsewhere, an editor hands over what it holds.
 void KatalogGrid::finishEdit()
 {
-    if (state() == EditingState)
-        setFocus();
+    finishCellEdit(*this);
 }
 
 void KatalogGrid::keyPressEvent(QKeyEvent *event)

@@ -89,9 +89,7 @@ bool MalzemeDelegate::eventFilter(QObject *watched, QEvent *event)
         return enters || leaves;
     }
     if (event->type() == QEvent::FocusOut) {
-        // A message, the list of codes or the editor's own entries come back to it.
-        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
+        if (leavesForGood(*event))
             Q_EMIT left();
         return false;
     }

@@ -9,7 +9,7 @@ void OrderCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     constexpr int frame = 3;
     QStyleOptionViewItem plain = option;
     plain.state &= ~(QStyle::State_HasFocus | QStyle::State_MouseOver);
-    QStyledItemDelegate::paint(painter, plain, index);
+    EditorDelegate::paint(painter, plain, index);
 
     const auto *grid = qobject_cast<const QAbstractItemView *>(option.widget);
     if (grid == nullptr || index != grid->currentIndex())
@@ -22,4 +22,15 @@ void OrderCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     painter->setPen(QPen(color, frame, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
     painter->drawRect(option.rect.adjusted(frame / 2, frame / 2, -frame / 2 - 1, -frame / 2 - 1));
     painter->restore();
+}
+
+/// White means nothing while no order is open, and would glare from a dark window.
+void OrderCellDelegate::initStyleOption(QStyleOptionViewItem *option,
+                                        const QModelIndex &index) const
+{
+    EditorDelegate::initStyleOption(option, index);
+    if (option->state.testFlag(QStyle::State_Enabled) || option->widget == nullptr)
+        return;
+    option->backgroundBrush = QBrush();
+    option->palette = option->widget->palette();
 }

@@ -1,16 +1,19 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "EditorDelegate.h"
 
 /// Paints a cell of the order's grid. The current cell is framed, not filled:
 /// yellow and white mean something and must stay visible under the cursor.
-class OrderCellDelegate : public QStyledItemDelegate
+class OrderCellDelegate : public EditorDelegate
 {
     Q_OBJECT
 
 public:
-    using QStyledItemDelegate::QStyledItemDelegate;
+    using EditorDelegate::EditorDelegate;
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 };

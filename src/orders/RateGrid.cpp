@@ -56,10 +56,7 @@ void RateGrid::goToFirst()
 
 void RateGrid::finishEdit()
 {
-    if (QWidget *txtEdit = indexWidget(currentIndex())) {
-        commitData(txtEdit);
-        closeEditor(txtEdit, QAbstractItemDelegate::NoHint);
-    }
+    finishCellEdit(*this);
 }
 
 void RateGrid::keyPressEvent(QKeyEvent *event)

@@ -10,6 +10,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPointer>
 #include <QPushButton>
 #include <QTableView>
 
@@ -25,7 +26,10 @@ void SayiKontrol(QLineEdit &box, Messages &messages)
     QString text = box.text();
     if (isAcceptable(text))
         return;
+    const QPointer<QLineEdit> stillThere = &box;
     messages.say(box.window(), u"SAYISAL DEGER GIRIN..."_s, MessageIcon::Critical);
+    if (stillThere.isNull())
+        return;
     // Typing spoils one character at a time; pasting can spoil many.
     while (!isAcceptable(text))
         text.chop(1);
@@ -45,8 +49,10 @@ void VirgulNokta(QLineEdit &box)
 void keepNumeric(QLineEdit &box, Messages &messages)
 {
     QObject::connect(&box, &QLineEdit::textChanged, &box, [&box, &messages] {
+        const QPointer<QLineEdit> stillThere = &box;
         SayiKontrol(box, messages);
-        VirgulNokta(box);
+        if (!stillThere.isNull())
+            VirgulNokta(box);
     });
 }
 
@@ -102,6 +108,14 @@ public:
 void selectOnEntry(QLineEdit &box)
 {
     box.installEventFilter(new EntrySelection(&box));
+}
+
+bool leavesForGood(const QEvent &event)
+{
+    if (event.type() != QEvent::FocusOut)
+        return false;
+    const Qt::FocusReason reason = static_cast<const QFocusEvent &>(event).reason();
+    return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason;
 }
 
 QString chooseTyped(QComboBox &list, const QString &typedBefore, const QString &text)

@@ -7,6 +7,7 @@ class QAbstractItemView;
 class QColor;
 class QComboBox;
 class QCoreApplication;
+class QEvent;
 class QKeyEvent;
 class QLineEdit;
 class QPushButton;
@@ -31,6 +32,10 @@ void TumunuSec(QLineEdit &box);
 /// Selects the box's whole text whenever the user goes into it. Coming back
 /// from another window or from the box's menu does not count: the cursor stays.
 void selectOnEntry(QLineEdit &box);
+
+/// Whether an event takes the focus to another control of the window. A box, a
+/// menu or another window in front does not mean that an entry is finished.
+bool leavesForGood(const QEvent &event);
 
 /// Chooses the first entry that begins with what was typed so far and now, or
 /// else with what was typed now; returns what counts as typed so far.

@@ -4,6 +4,7 @@
 #include "Keyboard.h"
 #include "KurModel.h"
 #include "OrderFixture.h"
+#include "RealBox.h"
 #include "ScriptedMessages.h"
 #include "SqliteEngine.h"
 #include "SqlText.h"
@@ -24,12 +25,13 @@ public:
 /// The rate screen on a fresh company.
 struct Screen : OrderFixture, Keyboard
 {
-    Screen() { open(); }
+    Screen() { open(messages); }
+    explicit Screen(Messages &real) { open(real); }
 
-    void open()
+    void open(Messages &spoken)
     {
         screen = std::make_unique<Giris_Kur>(
-            ScreenContext{oturum, messages,
+            ScreenContext{oturum, spoken,
                           [this](QWidget *, const LookupRequest &request) {
                               asked.append(request.ListeTuru);
                               LookupAnswer answer;
@@ -107,6 +109,7 @@ class GirisKurTest : public QObject
 private Q_SLOTS:
     void modelPassesTheTester();
     void entersRatesByKeyboard();
+    void editorOutlivesItsBox();
     void movesBetweenCells();
     void refusesWhatIsNoDate();
     void tellsThatThereAreNoRates();
@@ -177,6 +180,30 @@ void GirisKurTest::entersRatesByKeyboard()
     QTRY_VERIFY(!s.isEntering());
     QCOMPARE(s.stored(newDate), saved);
     QCOMPARE(s.stored(firstDate), QStringList({u"EUR 2.4/2.3"_s, u"USD 1.8/1.7"_s}));
+}
+
+/// The program's own box takes the focus from the editor, and gives it back.
+void GirisKurTest::editorOutlivesItsBox()
+{
+    MessageBoxes boxes;
+    Screen s(boxes);
+    s.goTo(u"07.03.2012"_s);
+    const RealBox answers;
+    const auto typed = [&] {
+        const auto *txtEdit = s.grid()->findChild<QLineEdit *>(u"txtEdit"_s);
+        return txtEdit != nullptr && s.screen->focusWidget() == txtEdit &&
+                       txtEdit->cursorPosition() == txtEdit->text().size()
+                   ? txtEdit->text()
+                   : QString();
+    };
+    s.key(Qt::Key_F2);
+    for (const auto &[keys, left] : {std::pair{u"1.."_s, u"1."_s}, {u"5.3"_s, u"1.53"_s}}) {
+        QTest::keyClicks(s.screen->focusWidget(), keys);
+        QCOMPARE(typed(), left);
+    }
+    QCOMPARE(answers.shown(), 2);
+    QTest::keyClick(s.screen->focusWidget(), Qt::Key_Return);
+    QVERIFY(s.shown().join(u' ').contains(u" 1.53"_s));
 }
 
 void GirisKurTest::movesBetweenCells()
@@ -318,10 +345,10 @@ void GirisKurTest::keepsBuyingRatesOrNot()
 
     // The choice lasts, and is the company's own.
     s.oturum.SirketKodu = 2;
-    s.open();
+    s.open(s.messages);
     QVERIFY(!s.control<QCheckBox>(u"Check_Alis"_s)->isChecked());
     s.oturum.SirketKodu = 0;
-    s.open();
+    s.open(s.messages);
     QVERIFY(s.control<QCheckBox>(u"Check_Alis"_s)->isChecked());
     // Without them none is written; what is stored already is not lost.
     s.goTo(u"01032012"_s);
