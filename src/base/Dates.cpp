@@ -1,5 +1,7 @@
 #include "Dates.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 QDate noDate()
@@ -30,6 +32,21 @@ QDate parseDate(QStringView text)
     if (parts[2].size() <= 2)
         year += year < 30 ? 2000 : 1900;
     return year < 100 ? QDate() : QDate(year, numbers[1], numbers[0]);
+}
+
+QDate typedDate(QStringView text)
+{
+    constexpr int firstWholeYear = 1000;
+    QString typed = text.trimmed().toString();
+    const bool bare =
+        std::all_of(typed.begin(), typed.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    if (bare && (typed.size() == 6 || typed.size() == 8))
+        typed.insert(4, u'.').insert(2, u'.');
+    const auto lastSeparator =
+        std::find_if(typed.rbegin(), typed.rend(), [](QChar c) { return c < u'0' || c > u'9'; });
+    const auto yearDigits = std::distance(typed.rbegin(), lastSeparator);
+    const QDate date = parseDate(typed);
+    return (yearDigits == 2 || yearDigits == 4) && date.year() >= firstWholeYear ? date : QDate();
 }
 
 QString formatDate(QDate date)

@@ -12,6 +12,10 @@ QDate noDate();
 /// 1930 and 2029), or an invalid date.
 QDate parseDate(QStringView text);
 
+/// The same for what stands in a box, where it may be half typed: the year has
+/// two or four digits. The separators may be left out where all digits stand.
+QDate typedDate(QStringView text);
+
 /// dd.MM.yyyy; nothing for an invalid date.
 QString formatDate(QDate date);
 

@@ -59,9 +59,6 @@ void Giris_Siparis::setUpLook()
 
 void Giris_Siparis::fillChoices()
 {
-    const QLocale turkish(QLocale::Turkish);
-    m_ui->SipTrh->setLocale(turkish);
-    m_ui->TesTrh->setLocale(turkish);
     m_ui->Rapor->setColours(m_lookups.colours());
     m_model->setTypes(m_store.productTypes());
 }
@@ -115,6 +112,8 @@ void Giris_Siparis::connectControls()
         connect(box, &QCheckBox::clicked, this, &Giris_Siparis::keepSlipChoice);
     keepNumeric(*m_ui->Sipnum, m_context.messages);
     keepNumeric(*m_ui->Ayar, m_context.messages);
+    for (DateBox *date : {m_ui->SipTrh, m_ui->TesTrh})
+        keepDate(*date, m_context.messages);
     connect(m_ui->FirAdi, &QLineEdit::textEdited, this, &Giris_Siparis::customerTyped);
     connect(m_ui->Check_HizliGiris, &QCheckBox::toggled, this,
             [this](bool on) { guarded(m_context.messages, this, [&] { setQuickEntry(on); }); });

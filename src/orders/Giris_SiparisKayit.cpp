@@ -33,6 +33,8 @@ Siparis Giris_Siparis::collect() const
 
 bool Giris_Siparis::check(const Siparis &siparis)
 {
+    if (!holdDates({m_ui->SipTrh, m_ui->TesTrh}, m_context.messages))
+        return false;
     const auto defined = [this](const QString &model) { return m_lookups.hasModel(model); };
     const std::optional<OrderFault> fault = checkOrder(siparis, defined);
     if (fault)
@@ -113,7 +115,7 @@ void Giris_Siparis::saveAsNew()
     const std::optional<QString> answer =
         m_context.messages.input(this, u"SİPARİŞ TARİHİ"_s, u"SİPARİŞ TARİH BİLGİSİ"_s,
                                  formatDate(m_context.oturum.CalismaTarihi));
-    const QDate date = parseDate(answer.value_or(QString()));
+    const QDate date = typedDate(answer.value_or(QString()));
     if (!date.isValid()) {
         m_context.messages.say(this, u"HATALI TARIH BILGISI GIRILIYOR!"_s, MessageIcon::Exclamation,
                                u"HATA"_s);

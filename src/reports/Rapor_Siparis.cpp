@@ -245,13 +245,8 @@ void Rapor_Siparis::enterPressed()
 
 bool Rapor_Siparis::readPeriod(const Sekme &sekme, ReportPeriod &period)
 {
-    for (DateBox *box : {sekme.bas, sekme.bit}) {
-        if (box->date().isValid())
-            continue;
-        m_context.messages.say(this, u"Tarih Hatali."_s);
-        box->setFocus(Qt::OtherFocusReason);
+    if (!holdDates({sekme.bas, sekme.bit}, m_context.messages))
         return false;
-    }
     period = {sekme.bas->date(), sekme.bit->date()};
     return true;
 }

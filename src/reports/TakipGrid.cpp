@@ -21,12 +21,9 @@ namespace {
 constexpr Twips widths[TakipModel::Columns] = {1800_tw, 1000_tw, 1000_tw, 3200_tw, 1400_tw,
                                                1400_tw, 1600_tw, 1600_tw, 0_tw};
 
-/// What a date box holds: nothing while only its mask stands there.
 QString dateText(const DateBox &box)
 {
-    const QString text = box.text();
-    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isDigit(); }) ? text
-                                                                                      : QString();
+    return box.isBlank() ? QString() : box.text();
 }
 
 } // namespace
@@ -74,6 +71,7 @@ void TakipGrid::setUp(TakipModel &model, Messages &messages)
     setModel(&model);
     setColumnHidden(TakipModel::OtoSayi, true);
     connect(&model, &QAbstractItemModel::modelAboutToBeReset, this, &TakipGrid::abandonEdit);
+    connect(&model, &QAbstractItemModel::modelReset, this, &TakipGrid::spreadColumns);
     spreadColumns();
 }
 
@@ -87,11 +85,14 @@ void TakipGrid::setDuzen(const TakipDuzeni &duzen)
     spreadColumns();
 }
 
-/// What a column needs: its own width, and for the statuses what the longest
-/// takes, but not more than half as much again.
+/// What a column needs: its own width, for dates what those with a time take,
+/// and for the statuses what the longest takes, but not more than half as much
+/// again.
 int TakipGrid::neededWidth(int column) const
 {
     const int own = qRound(widths[column].pixels(logicalDpiX()));
+    if (TakipModel::isDate(column))
+        return std::max(own, sizeHintForColumn(column) + 1);
     QStringList texts;
     if (column == TakipModel::SipDur)
         texts = m_duzen.siparisDurumlari;
@@ -271,12 +272,9 @@ bool TakipGrid::eventFilter(QObject *watched, QEvent *event)
         return QTableView::eventFilter(watched, event);
     if (event->type() == QEvent::KeyPress)
         return editorKey(static_cast<QKeyEvent *>(event));
-    if (event->type() == QEvent::FocusOut) {
-        // Only Enter and a choice write: who goes elsewhere has not decided.
-        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
-            abandonEdit();
-    }
+    // Only Enter and a choice write: who goes elsewhere has not decided.
+    if (leavesForGood(*event))
+        abandonEdit();
     return false;
 }
 

@@ -136,7 +136,7 @@ bool TakipModel::setDate(QDateTime &date, const QString &text)
         return true;
     QDateTime wanted;
     if (!text.trimmed().isEmpty()) {
-        wanted = QDateTime(parseDate(text), QTime(0, 0), Qt::UTC);
+        wanted = QDateTime(typedDate(text), QTime(0, 0), Qt::UTC);
         if (!wanted.isValid())
             return false;
         if (wanted.date() == noDate())

@@ -25,6 +25,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr Twips widths[SecimModeli::shownColumns] = {1400_tw, 1200_tw, 2200_tw, 900_tw};
+constexpr int dateColumn = 0;
 constexpr int customerColumn = 2;
 
 } // namespace
@@ -51,9 +52,6 @@ UretimSekmesi::~UretimSekmesi() = default;
 
 void UretimSekmesi::setUpFilters()
 {
-    const QLocale turkish(QLocale::Turkish);
-    m_ui->Trh00->setLocale(turkish);
-    m_ui->Trh01->setLocale(turkish);
     // From "no date" on: lines that production has not begun are to be made, too.
     m_ui->Trh00->setDate(noDate());
     m_ui->Trh01->setDate(m_context.oturum.CalismaTarihi);
@@ -105,8 +103,10 @@ void UretimSekmesi::connectControls()
     });
     connect(m_secim, &SecimModeli::secimChanged, this, &UretimSekmesi::showSelection);
     connect(m_ui->Arama, &QLineEdit::textChanged, m_siparisler, &LookupModel::narrow);
-    for (QDateEdit *date : {m_ui->Trh00, m_ui->Trh01})
-        connect(date, &QDateEdit::dateChanged, this, &UretimSekmesi::refresh);
+    for (DateBox *date : {m_ui->Trh00, m_ui->Trh01}) {
+        keepDate(*date, messages);
+        connect(date, &DateBox::dateChanged, this, &UretimSekmesi::refresh);
+    }
     for (QComboBox *status : {m_ui->Sipdur0, m_ui->Uretdur0})
         connect(status, &QComboBox::currentIndexChanged, this, &UretimSekmesi::refresh);
     connect(m_ui->CmbYazdir0, &ChoiceBox::chosen, this, &UretimSekmesi::print);
@@ -178,7 +178,9 @@ void UretimSekmesi::spreadColumns()
     for (int column = 0; column < m_secim->columnCount(); ++column)
         list->setColumnHidden(column, column >= SecimModeli::shownColumns);
     for (int column = 0; column < SecimModeli::shownColumns; ++column) {
-        list->setColumnWidth(column, qRound(widths[column].pixels(logicalDpiX())));
+        const int own = qRound(widths[column].pixels(logicalDpiX()));
+        const int needed = static_cast<QAbstractItemView *>(list)->sizeHintForColumn(column);
+        list->setColumnWidth(column, column == dateColumn ? std::max(own, needed) : own);
         list->horizontalHeader()->setSectionResizeMode(
             column, column == customerColumn ? QHeaderView::Stretch : QHeaderView::Interactive);
     }
@@ -204,6 +206,7 @@ void UretimSekmesi::showProgress()
         list->setCurrentIndex(m_secim->index(0, 0));
     if (m_secim->rowCount() == 0)
         m_orderTimer.start(0);
+    spreadColumns();
     const QString open = m_siparisler->isComplete() ? QString() : u"…"_s;
     m_ui->KayitSayisi->setText(
         u"%1%2 sipariş"_s.arg(formatNumber(m_siparisler->rowCount(), u"#,##0"), open));
@@ -231,7 +234,7 @@ UretimFiltre UretimSekmesi::filtre() const
     const auto chosen = [](const QComboBox *list) {
         return list->currentIndex() > 0 ? std::optional(list->currentText()) : std::nullopt;
     };
-    return {m_ui->Trh00->date(), m_ui->Trh01->date(), chosen(m_ui->Sipdur0),
+    return {m_ui->Trh00->lastDate(), m_ui->Trh01->lastDate(), chosen(m_ui->Sipdur0),
             chosen(m_ui->Uretdur0)};
 }
 
@@ -286,6 +289,8 @@ void UretimSekmesi::print()
 
 void UretimSekmesi::showSheet()
 {
+    if (!holdDates({m_ui->Trh00, m_ui->Trh01}, m_context.messages))
+        return;
     const auto yazdirma =
         m_ui->CmbYazdir0->currentIndex() == 1 ? UretimYazdirma::Resimli : UretimYazdirma::Yazili;
     const UretimListesi liste = uretimListesi(m_context.oturum, m_secim->secim(), filtre());

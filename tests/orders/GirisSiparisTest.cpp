@@ -1,4 +1,5 @@
 #include "BarcodeReader.h"
+#include "DateBox.h"
 #include "EtiketStore.h"
 #include "Giris_Siparis.h"
 #include "KeptDocuments.h"
@@ -140,6 +141,7 @@ private Q_SLOTS:
     void entersAnOrderByKeyboard();
     void walksThroughTheStates();
     void savesAFoundOrder();
+    void savesTheDateAsTyped();
     void tellsWhatIsMissing();
     void findsTheCustomer();
     void removesRows();
@@ -281,7 +283,7 @@ void GirisSiparisTest::savesAFoundOrder()
         u"UPDATE SiparisD SET Drm1 = 'HAZIR', Trhbas = DateValue('4.3.2012') Where SipnumD = 1"_s);
     for (int time = 0; time < 2; ++time) {
         s.find(u"1"_s);
-        s.control<QDateEdit>(u"SipTrh"_s)->setDate(QDate(2020, 1, 1));
+        s.control<DateBox>(u"SipTrh"_s)->setDate(QDate(2020, 1, 1));
         s.messages.expect(slipQuestion, MessageAnswer::No);
         s.press(u"cmdKayit"_s);
         QCOMPARE(s.lines(1), QStringList({u"1 A75 2 SR [ölçü 14] 1"_s, u"1 A75 1 SR [ölçü 14] 3"_s,
@@ -323,6 +325,30 @@ void GirisSiparisTest::savesAFoundOrder()
     // It was told from the start, and still is after models were entered.
     QVERIFY(s.control<QLabel>(u"warningLine"_s)->text().startsWith(u"77 nolu sipariş yok"_s));
     QVERIFY(s.control(u"warningLine"_s)->isVisible());
+}
+
+/// A save never takes a date that is half typed, and takes the typed one at once.
+void GirisSiparisTest::savesTheDateAsTyped()
+{
+    Screen s;
+    const auto type = [&s](const QString &date) {
+        s.control(u"TesTrh"_s)->setFocus(Qt::TabFocusReason);
+        s.type(date);
+        QTest::keyClick(s.control(u"TesTrh"_s), Qt::Key_K, Qt::AltModifier);
+    };
+    s.find(u"1"_s);
+    const QString before = s.header(1, u"TesTrh");
+    s.messages.expect(u"Tarih Hatali."_s);
+    type(u"9.3."_s);
+    QTRY_COMPARE(s.messages.remaining(), 0);
+    QTRY_VERIFY(s.control(u"TesTrh"_s)->hasFocus());
+    QCOMPARE(s.control<DateBox>(u"TesTrh"_s)->text(), u"9.3."_s);
+    QCOMPARE(s.header(1, u"TesTrh"), before);
+
+    s.messages.expect(slipQuestion, MessageAnswer::No);
+    type(u"9.3.27"_s);
+    QTRY_COMPARE(s.messages.remaining(), 0);
+    QCOMPARE(s.header(1, u"TesTrh"), u"09.03.2027"_s);
 }
 
 void GirisSiparisTest::tellsWhatIsMissing()

@@ -1,5 +1,7 @@
 #include "EntryControls.h"
 #include "DateBox.h"
+#include "Messages.h"
+#include "RealBox.h"
 #include "ScriptedMessages.h"
 #include "TestRegistry.h"
 
@@ -18,7 +20,9 @@ private Q_SLOTS:
     void listSelection();
     void rowMarks();
     void idleMnemonicTypesNothing();
-    void dateBoxCompletesWhatIsADate();
+    void dateBoxTakesWhatIsTyped_data();
+    void dateBoxTakesWhatIsTyped();
+    void dateBoxStepsAndShowsACalendar();
 };
 
 void EntryControlsTest::numericBox_data()
@@ -127,23 +131,73 @@ void EntryControlsTest::idleMnemonicTypesNothing()
     QCOMPARE(press(Qt::NoModifier), u"kk"_s);
 }
 
-void EntryControlsTest::dateBoxCompletesWhatIsADate()
+void EntryControlsTest::dateBoxTakesWhatIsTyped_data()
 {
+    QTest::addColumn<QString>("keys");
+    QTest::addColumn<QDate>("date");
+    const QDate fifth(2027, 1, 5);
+    for (const auto *keys : {"05.01.2027", "5.1.27", "5.1.2027", "5/1/2027", "05-01-27", "5,1,2027",
+                             "050127", "05012027"})
+        QTest::newRow(keys) << QString::fromLatin1(keys) << fifth;
+    for (const auto *keys : {"", "5", "05.01", "05.01.", "05.01.2", "05.01.202", "05.01.0202",
+                             "31.02.2027", "01.25.2027", "99999999", "5127"})
+        QTest::newRow(qPrintable(u"no date: "_s + QString::fromLatin1(keys)))
+            << QString::fromLatin1(keys) << QDate();
+}
+
+/// Typed over another date, with a real box that refuses.
+void EntryControlsTest::dateBoxTakesWhatIsTyped()
+{
+    QFETCH(QString, keys);
+    QFETCH(QDate, date);
+    MessageBoxes messages;
     QWidget window;
     DateBox box(&window);
     QLineEdit other(&window);
+    box.setDate(QDate(2026, 11, 23));
+    keepDate(box, messages);
     window.show();
     QVERIFY(QTest::qWaitForWindowActive(&window));
-    const QSignalSpy invalid(&box, &DateBox::leftInvalid);
-    box.setFocus();
-    QTest::keyClicks(&box, u"050924"_s);
     other.setFocus();
-    QCOMPARE(box.text(), u"05.09.2024"_s);
-    box.setFocus();
-    QTest::keyClick(&box, Qt::Key_Delete);
-    other.setFocus();
-    QCOMPARE(invalid.count(), 1);
-    QVERIFY(!box.date().isValid());
+    box.setFocus(Qt::TabFocusReason);
+    if (keys.isEmpty())
+        QTest::keyClick(&box, Qt::Key_Delete);
+    QTest::keyClicks(&box, keys);
+    const QString typed = box.text();
+    QCOMPARE(box.date(), date);
+    const RealBox answers;
+    other.setFocus(Qt::TabFocusReason);
+    QTRY_COMPARE(answers.shown(), date.isValid() ? 0 : 1);
+    QTRY_COMPARE(window.focusWidget(), date.isValid() ? &other : &box);
+    QCOMPARE(box.text(), date.isValid() ? u"05.01.2027"_s : typed);
+    QCOMPARE(box.lastDate(), date.isValid() ? date : QDate(2026, 11, 23));
+}
+
+void EntryControlsTest::dateBoxStepsAndShowsACalendar()
+{
+    QWidget window;
+    DateBox box(&window);
+    box.setDate(QDate(2026, 12, 31));
+    const QSignalSpy changes(&box, &DateBox::dateChanged);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    box.setFocus(Qt::TabFocusReason);
+    QTest::keyClick(&box, Qt::Key_Up);
+    QCOMPARE(box.date(), QDate(2027, 1, 1));
+    box.setCursorPosition(4);
+    QTest::keyClick(&box, Qt::Key_Down);
+    QCOMPARE(box.date(), QDate(2026, 12, 1));
+    QCOMPARE(changes.count(), 2);
+    QTest::keyClick(&box, Qt::Key_F4);
+    QTRY_VERIFY(QApplication::activePopupWidget() != nullptr);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QVERIFY(QApplication::activePopupWidget() == nullptr);
+    QCOMPARE(box.date(), QDate(2026, 12, 2));
+    QGuiApplication::clipboard()->setText(u"1/10/2027"_s);
+    box.selectAll();
+    QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+    QCOMPARE(box.date(), QDate(2027, 10, 1));
 }
 
 KUYUM_TEST(EntryControlsTest)

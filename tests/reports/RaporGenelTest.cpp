@@ -394,7 +394,7 @@ void RaporGenelTest::showsWhatIsMadeOfTheCurrentOrder()
     QVERIFY(s.control(u"Sipnum"_s)->hasFocus());
     s.key(Qt::Key_Tab, Qt::ControlModifier);
     QVERIFY(s.list()->hasFocus());
-    s.control<QDateEdit>(u"Trh01"_s)->setDate(QDate(2012, 3, 4));
+    s.control<DateBox>(u"Trh01"_s)->setDate(QDate(2012, 3, 4));
     QCOMPARE(s.figures(u"Yedek0"_s), QStringList());
     QCOMPARE(s.figures(u"Taslar"_s), QStringList());
 }
@@ -432,7 +432,7 @@ void RaporGenelTest::marksOrdersAndPrintsThem()
     const auto *numbers = std::get_if<PageText>(&s.viewer.documents[0].pages()[0].items[3]);
     QVERIFY(numbers != nullptr);
     QCOMPARE(numbers->text, u"SİPARİŞ NOLARI : 4,3"_s);
-    s.control<QDateEdit>(u"Trh00"_s)->setDate(QDate(2012, 1, 1));
+    s.control<DateBox>(u"Trh00"_s)->setDate(QDate(2012, 1, 1));
     s.messages.expect(u"KAYIT BULUNAMADI..."_s);
     s.print(1);
     s.print(0); // the first entry does nothing
