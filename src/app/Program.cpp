@@ -13,6 +13,8 @@
 #include "SingleInstance.h"
 #include "StartUp.h"
 #include "Theme.h"
+#include "WheelGuard.h"
+#include "WindowSize.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -90,6 +92,7 @@ int runSession(QApplication &application, Messages &messages, const QString &reg
     Oturum oturum;
     oturum.kayitYolu = registry;
     ScreenServices services(oturum, messages);
+    rememberWindows(application, services.settings);
     const std::unique_ptr<AnaMenu> menu =
         startUp({.oturum = oturum,
                  .messages = messages,
@@ -134,6 +137,7 @@ int runProgram(int &argc, char **argv)
     speakTurkish(application, translator);
     applyTheme(application);
     ignoreIdleMnemonics(application);
+    guardBoxesFromWheel(application);
     QGuiApplication::setWindowIcon(emblemIcon());
     return runSession(application, messages, *registry);
 }

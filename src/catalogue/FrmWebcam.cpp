@@ -4,6 +4,7 @@
 #include "Guarded.h"
 #include "PictureFiles.h"
 #include "ui_FrmWebcam.h"
+#include "WindowSize.h"
 
 #include <QClipboard>
 #include <QFileDialog>
@@ -92,7 +93,7 @@ void FrmWebcam::readSettings()
     const QPoint corner(settings.value(key(leftKey)).toInt(), settings.value(key(topKey)).toInt());
     for (const QScreen *screen : QGuiApplication::screens()) {
         if (screen->availableGeometry().contains(corner))
-            move(corner);
+            setGeometry({corner, size()});
     }
 }
 
@@ -159,10 +160,7 @@ void FrmWebcam::fitToImage(QSize image)
     const bool fits = image.width() <= room.width() && image.height() <= room.height();
     resize((fits ? image : image.scaled(room, Qt::KeepAspectRatio)) + besides);
     // Grown from where it stood, it may reach over the screen's edge.
-    const QRect available = screen()->availableGeometry();
-    const QPoint furthest = available.bottomRight() - frameGeometry().bottomRight() + pos();
-    move(std::clamp(x(), available.left(), std::max(available.left(), furthest.x())),
-         std::clamp(y(), available.top(), std::max(available.top(), furthest.y())));
+    keepOnScreen(*this);
 }
 
 void FrmWebcam::takeFrame()
@@ -214,8 +212,9 @@ void FrmWebcam::saveFrame()
 void FrmWebcam::done(int result)
 {
     if (isVisible() && !isMinimized()) {
-        m_services.settings.setValue(key(leftKey), x());
-        m_services.settings.setValue(key(topKey), y());
+        // Without the frame, as it is placed: it would wander by the frame's width.
+        m_services.settings.setValue(key(leftKey), geometry().x());
+        m_services.settings.setValue(key(topKey), geometry().y());
     }
     m_source.reset();
     QDialog::done(result);

@@ -1,5 +1,6 @@
 #include "Liste_Combo.h"
 
+#include "Dates.h"
 #include "Guarded.h"
 #include "HelpFile.h"
 #include "ListCellDelegate.h"
@@ -112,17 +113,21 @@ int Liste_Combo::neededWidth(int column) const
 }
 
 /// A column has its own width; where the system's font is a wide one, what is
-/// needed, but not more than half as much again. What is too much for the room
-/// is taken from the columns that do not need all they have.
+/// needed, but not more than half as much again. A date is whole in any case,
+/// with its time too. What is too much for the room is taken from the columns
+/// that do not need all they have.
 void Liste_Combo::showColumns(int room)
 {
+    constexpr int dateCharacters = 10;
     const QList<LookupColumn> &columns = m_model->columns();
     QList<int> widths;
     QList<int> spare;
     for (int i = 0; i < columns.size(); ++i) {
         const int own = qRound(columns[i].width.pixels(logicalDpiX()));
         const int needed = own == 0 ? 0 : neededWidth(i);
-        widths.append(qBound(own, needed, own * 3 / 2));
+        const QString first = m_model->index(0, i).data().toString().left(dateCharacters);
+        const int most = parseDate(first).isValid() ? needed : own * 3 / 2;
+        widths.append(qBound(own, needed, std::max(own, most)));
         spare.append(qMax(0, widths.last() - needed));
     }
     const int missing = std::accumulate(widths.begin(), widths.end(), -room);

@@ -10,7 +10,6 @@
 #include "WindowSize.h"
 
 #include <QKeyEvent>
-#include <QScreen>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -96,9 +95,8 @@ void Giris_Kur::GridDoldur()
     // As wide as the grid asks for, narrower too than it was before.
     layout()->activate();
     resize(layout()->minimumSize().width(), height());
-    const int beyond = frameGeometry().right() - screen()->availableGeometry().right();
-    if (isVisible() && beyond > 0)
-        move(pos() - QPoint(beyond, 0));
+    if (isVisible())
+        keepOnScreen(*this);
 }
 
 /// Back to the date, with the grid cut back to its header.

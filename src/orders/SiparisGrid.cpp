@@ -13,6 +13,7 @@
 namespace {
 
 constexpr int quantityDigits = 9; // what a whole number field always holds
+constexpr int besideText = 12;    ///< of a cell and of an editor over it
 
 } // namespace
 
@@ -41,6 +42,7 @@ void SiparisGrid::setSiparisModel(SiparisModel *model)
     m_model = model;
     setModel(model);
     connect(model, &SiparisModel::modelAboutToBeReset, this, &SiparisGrid::abandonEdit);
+    connect(model, &SiparisModel::modelReset, this, &SiparisGrid::spreadColumns);
 }
 
 void SiparisGrid::setColours(const QStringList &colours)
@@ -98,7 +100,8 @@ int SiparisGrid::usualCharacters(int column) const
     return date ? 10 : 16;
 }
 
-/// Columns as wide as what they hold usually needs; the note gets the rest.
+/// Columns as wide as what they hold usually needs, with quantities and dates
+/// whole also where they are longer; the note gets the rest.
 void SiparisGrid::spreadColumns()
 {
     if (m_model == nullptr)
@@ -110,7 +113,10 @@ void SiparisGrid::spreadColumns()
         if (column == note)
             continue;
         const int heading = horizontalHeader()->sectionSizeHint(column);
-        setColumnWidth(column, std::max(heading, usualCharacters(column) * digit));
+        int needed = usualCharacters(column) * digit;
+        if (m_model->isQuantity(column) || column > note + 2)
+            needed = std::max(needed + besideText, sizeHintForColumn(column));
+        setColumnWidth(column, std::max(heading, needed));
         others += columnWidth(column);
     }
     setColumnWidth(note, std::max(16 * digit, viewport()->width() - others));
@@ -213,11 +219,8 @@ bool SiparisGrid::eventFilter(QObject *watched, QEvent *event)
         return QTableView::eventFilter(watched, event);
     if (event->type() == QEvent::KeyPress)
         return editorKey(static_cast<QKeyEvent *>(event));
-    if (event->type() == QEvent::FocusOut) {
-        const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-        if (reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason)
-            editorLeft();
-    }
+    if (leavesForGood(*event))
+        editorLeft();
     return false;
 }
 

@@ -96,6 +96,19 @@ QBarCategoryAxis *makeModelAxis(const ReportTable &table)
     return axis;
 }
 
+/// How far apart the axis has its ticks: whole pieces, 1, 2 or 5 times a power of
+/// ten, and at most six of them.
+qint64 tickDistance(double most)
+{
+    constexpr int mostSteps = 5;
+    for (qint64 ten = 1;; ten *= 10) {
+        for (const qint64 distance : {ten, 2 * ten, 5 * ten}) {
+            if (most <= double(mostSteps * distance))
+                return distance;
+        }
+    }
+}
+
 /// How a chart is to look.
 struct ChartLook
 {
@@ -166,13 +179,14 @@ QChart *makeChart(const ReportTable &table, const ChartLook &look)
     auto *models = makeModelAxis(table);
     auto *pieces = new QValueAxis;
     pieces->setLabelFormat(u"%.0f"_s);
-    pieces->setTickCount(6);
     chart->addAxis(models, Qt::AlignLeft);
     chart->addAxis(pieces, Qt::AlignBottom);
     series->attachAxis(models);
     series->attachAxis(pieces);
-    pieces->setMin(0);
-    pieces->applyNiceNumbers();
+    const qint64 distance = tickDistance(pieces->max());
+    const int steps = std::max(1, qCeil(pieces->max() / double(distance)));
+    pieces->setRange(0, double(steps * distance));
+    pieces->setTickCount(steps + 1);
     colorAxis(*models, palette, look.font);
     colorAxis(*pieces, palette, look.font);
     models->setGridLineVisible(false);

@@ -8,12 +8,12 @@
 #include "MenuStore.h"
 #include "Theme.h"
 #include "ui_AnaMenu.h"
+#include "WindowSize.h"
 
 #include <QDir>
 #include <QFile>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -40,8 +40,7 @@ AnaMenu::AnaMenu(Oturum &oturum, Messages &messages, MenuScreens screens)
     connect(m_panel, &MenuPanel::chosen, this, &AnaMenu::open);
     connectFixedButtons();
     showSession();
-    constexpr int titleBar = 40;
-    resize(size().boundedTo(screen()->availableSize() - QSize(0, titleBar)));
+    fitToScreen(*this, size());
 }
 
 AnaMenu::~AnaMenu() = default;
