@@ -212,7 +212,7 @@ void FrmWebcam::saveFrame()
 void FrmWebcam::done(int result)
 {
     if (isVisible() && !isMinimized()) {
-        // Without the frame, as it is placed: it would wander by the frame's width.
+        // Without the frame, which the system adds: with it the window would wander.
         m_services.settings.setValue(key(leftKey), geometry().x());
         m_services.settings.setValue(key(topKey), geometry().y());
     }

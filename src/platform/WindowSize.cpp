@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// What a system's frame takes of the screen, where it cannot be asked yet.
-constexpr QMargins usualFrame(5, 40, 5, 20);
+constexpr QMargins usualFrame(2, 32, 2, 4);
 
 QMargins frameOf(const QWidget &window)
 {
