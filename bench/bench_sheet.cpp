@@ -85,8 +85,9 @@ void measurePictures(ReportTable table, int pictures)
     table.columns[0].kind = ReportColumnKind::Model;
     for (int row = 0; row < table.rows.size(); ++row)
         table.rows[row].values[0] = QString::number(row % pictures);
-    const ReportSheet sheet{table, u"RAPOR"_s, SheetForm::Sayilarla,
-                            [&](const QString &model) { return picturePath(model.toInt()); }};
+    const ReportSheet sheet{
+        table, u"RAPOR"_s, SheetForm::Sayilarla,
+        [&](const QString &model, const QString &) { return picturePath(model.toInt()); }};
     const QString path = folder.filePath(u"rapor.xlsx"_s);
     const qint64 before = memoryOfTree(QCoreApplication::applicationPid());
     const double whole =

@@ -3,7 +3,9 @@
 #include "AllCodes.h"
 #include "LabelOutput.h"
 
+#include <algorithm>
 #include <QCommandLineParser>
+#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
@@ -26,6 +28,26 @@ PrintDocument symbolDocument(const QString &text, const QString &modules)
     return document;
 }
 
+[[noreturn]] void refuse(const QString &text)
+{
+    throw std::runtime_error(text.toStdString());
+}
+
+/// The 13 digits of an EAN-13. A symbol that says other ones than were asked
+/// for would be stuck on goods before anybody reads it.
+QString eanNumber(const QString &text)
+{
+    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
+    constexpr qsizetype length = 13;
+    if (text.isEmpty() || text.size() > length || !std::ranges::all_of(text, isDigit))
+        refuse(u"EAN-13 en çok 13 rakamdan oluşur: %1"_s.arg(text));
+    const QString number = ean13Digits(text);
+    if (text.size() == length && text != number)
+        refuse(u"%1 numarasının denetim rakamı yanlış: son rakam %2 olmalıdır."_s.arg(
+            text, number.last(1)));
+    return number;
+}
+
 } // namespace
 
 /// kuyum barkod SYMBOLOGY TEXT --pdf FILE | --png FILE --dpi N: a bar code of
@@ -40,14 +62,15 @@ int barkodCommand(const QStringList &arguments)
     if (words.size() != 2)
         throw WrongUsage();
     const LabelOutput output = labelOutput(parser);
+    QString caption = words[1];
     QString modules;
     const auto take = [&](const BarPart &part) { modules += part.modules; };
     if (const std::optional<Symbology> symbology = symbologyNamed(words[0]))
         encode(*symbology, words[1], take);
     else if (words[0] == "ean13"_L1)
-        encodeEan13(words[1], take);
+        modules = ean13Modules(caption = eanNumber(words[1]));
     else
         throw WrongUsage();
-    output.write(symbolDocument(words[1], modules));
+    output.write(symbolDocument(caption, modules));
     return 0;
 }

@@ -69,8 +69,13 @@ QMap<QString, QString> readValues(const QStringList &words)
 PrintDocument templateLabel(const Etiket &etiket, const BarkodTipi &tip,
                             const QMap<QString, QString> &values)
 {
+    const QList<SorulanAlan> noPrice = missingPrices(tip, values);
     for (const QString &placeholder : givenPlaceholders()) {
-        if (uses(tip, placeholder) && !values.contains(placeholder)) {
+        const bool given = values.contains(placeholder) &&
+                           !std::ranges::any_of(noPrice, [&](const SorulanAlan &price) {
+                               return price.alan == placeholder;
+                           });
+        if (uses(tip, placeholder) && !given) {
             refuse(
                 u"%1 etiket tipi %2 alanını basar; değeri --alan %3=METIN ile verilmelidir."_s.arg(
                     tip.BarkodTip_Ad, placeholder, placeholder.chopped(1).sliced(1)));

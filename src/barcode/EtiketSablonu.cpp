@@ -19,14 +19,28 @@ bool sideBySide(const BarkodAlani &alan, const BarkodTipi &tip)
     return bottom > tip.pBarkod.y && alan.at.y < tip.pBarkod.y + symbolHeight;
 }
 
-/// Where a field stands beside the symbol. On the coarsest printers the symbol
-/// is wider than it was laid out; what stands right of it makes way.
+/// On the coarsest printers the symbol is wider than it was laid out; what
+/// stands right of it makes way.
+bool makesWay(const BarkodAlani &alan, const BarkodTipi &tip)
+{
+    return sideBySide(alan, tip) && alan.at.x >= tip.pBarkod.x + symbolWidth &&
+           alan.at.x < tip.pBarkod.x + widestSymbol;
+}
+
+/// Where a field stands beside the symbol. A column that makes way moves whole,
+/// with its lines above and below the symbol, and columns keep their distances.
 PagePoint printedAt(const BarkodAlani &alan, const BarkodTipi &tip)
 {
-    const Twips laidOut = tip.pBarkod.x + symbolWidth;
-    const Twips printed = tip.pBarkod.x + widestSymbol;
-    const bool makesWay = sideBySide(alan, tip) && alan.at.x >= laidOut && alan.at.x < printed;
-    return makesWay ? PagePoint{printed, alan.at.y} : alan.at;
+    bool moves = false;
+    Twips leftmost = tip.pBarkod.x + widestSymbol;
+    for (const BarkodAlani &other : tip.alanlar) {
+        if (makesWay(other, tip)) {
+            leftmost = std::min(leftmost, other.at.x);
+            moves = moves || other.at.x == alan.at.x;
+        }
+    }
+    const Twips way = tip.pBarkod.x + widestSymbol - leftmost;
+    return moves ? PagePoint{alan.at.x + way, alan.at.y} : alan.at;
 }
 
 bool isCovered(const BarkodAlani &alan, const BarkodTipi &tip)
@@ -144,6 +158,17 @@ bool uses(const BarkodTipi &tip, const QString &placeholder)
     return std::any_of(tip.alanlar.begin(), tip.alanlar.end(), [&](const BarkodAlani &alan) {
         return alan.alanadi.contains(placeholder, Qt::CaseInsensitive);
     });
+}
+
+QList<SorulanAlan> missingPrices(const BarkodTipi &tip, const QMap<QString, QString> &values)
+{
+    static const QStringList prices = {u"%TFYT%"_s, u"%PFYT%"_s};
+    QList<SorulanAlan> missing = sorulanAlanlar();
+    missing.removeIf([&](const SorulanAlan &alan) {
+        return !prices.contains(alan.alan) || !uses(tip, alan.alan) ||
+               !values.value(alan.alan).trimmed().isEmpty();
+    });
+    return missing;
 }
 
 PrintDocument sablonBelgesi(const Etiket &etiket, const BarkodTipi &tip,

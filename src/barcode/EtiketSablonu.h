@@ -18,6 +18,10 @@ const QList<SorulanAlan> &sorulanAlanlar();
 /// Whether the label type prints the placeholder.
 bool uses(const BarkodTipi &tip, const QString &placeholder);
 
+/// The prices that the label type prints and the values, by placeholder, do not
+/// have or leave blank.
+QList<SorulanAlan> missingPrices(const BarkodTipi &tip, const QMap<QString, QString> &values);
+
 /// What a template is filled with, beside the label itself.
 struct SablonVerileri
 {

@@ -3,6 +3,7 @@
 #include "DocumentViewer.h"
 #include "EntryControls.h"
 #include "Guarded.h"
+#include "LabelLookup.h"
 #include "LabelPrinter.h"
 #include "Numbers.h"
 #include "Oturum.h"
@@ -21,7 +22,7 @@ Tanim_Barkod::Tanim_Barkod(const ScreenContext &context, LabelPrinter &labelPrin
                            QWidget *parent)
     : QDialog(parent),
       m_context(context),
-      m_labelPrinter(labelPrinter),
+      m_labels(labelPrinter, context.messages),
       m_store(context.oturum),
       m_ui(std::make_unique<Ui::Tanim_Barkod>()),
       m_settings(m_store.ayarlar()),
@@ -85,8 +86,22 @@ void Tanim_Barkod::connectControls()
 
 // Keys
 
+bool Tanim_Barkod::event(QEvent *event)
+{
+    // Held down, the printing button's letter would print label after label.
+    if (event->type() == QEvent::ShortcutOverride &&
+        static_cast<QKeyEvent *>(event)->isAutoRepeat()) {
+        event->accept();
+        return true;
+    }
+    return QDialog::event(event);
+}
+
 void Tanim_Barkod::keyPressEvent(QKeyEvent *event)
 {
+    // Held down it would walk on through the next model's boxes, and print again.
+    if (isEnter(*event) && event->isAutoRepeat())
+        return;
     if (isEnter(*event))
         guarded(m_context.messages, this, [this] { enterPressed(); });
     else if (event->key() == Qt::Key_Escape && m_found)
@@ -129,10 +144,15 @@ void Tanim_Barkod::ModelBul()
 {
     const QString model = m_ui->Model->text().trimmed();
     const QList<qint32> types = model.isEmpty() ? QList<qint32>() : m_store.modelTipleri(model);
-    if (types.size() == 1)
+    const std::optional<LabelledModel> label = LabelLookup(m_context.oturum).find(model);
+    if (label && label->isFound())
+        find(label->Model, label->TipID);
+    else if (types.size() == 1)
         find(model, types.first());
     else if (model.isEmpty() || types.size() > 1)
         pick(model); // it is for the user to say under which type
+    else if (label)
+        warn(u"%1 (%2)"_s.arg(label->whyNot(), model));
     else
         warn(u"MODEL BULUNAMADI: %1"_s.arg(model));
     if (m_ui->Model->hasFocus())
@@ -155,6 +175,10 @@ void Tanim_Barkod::find(const QString &model, qint32 TipID)
 void Tanim_Barkod::showModel(const EtiketModeli &found)
 {
     const Etiket &etiket = found.etiket;
+    const bool same =
+        m_found && m_found->etiket.Model == etiket.Model && m_found->etiket.TipID == etiket.TipID;
+    if (!same)
+        clearTyped();
     m_found = found;
     m_ui->Model->setText(etiket.Model);
     m_ui->txtUruntipi->setText(etiket.UrunTipi);
@@ -169,14 +193,22 @@ void Tanim_Barkod::showModel(const EtiketModeli &found)
     TumunuSec(*m_ui->txtMiktar);
 }
 
+/// What was typed for one model's label is no other model's.
+void Tanim_Barkod::clearTyped()
+{
+    m_ui->txtAciklama->clear();
+    for (const AskedBox &asked : std::as_const(m_asked))
+        asked.box->clear();
+    if (m_ui->OzelUrun->count() > 0)
+        m_ui->OzelUrun->setCurrentIndex(0);
+}
+
 void Tanim_Barkod::clear()
 {
     m_found.reset();
-    for (QLineEdit *box :
-         {m_ui->Model, m_ui->txtUruntipi, m_ui->txtMiktar, m_ui->txtAyar, m_ui->txtAciklama})
+    for (QLineEdit *box : {m_ui->Model, m_ui->txtUruntipi, m_ui->txtMiktar, m_ui->txtAyar})
         box->clear();
-    for (const AskedBox &asked : std::as_const(m_asked))
-        asked.box->clear();
+    clearTyped();
     m_ui->Picture1->showFile({});
     m_ui->pBarkod->draw({});
     tellHiddenFields();
@@ -239,6 +271,34 @@ void Tanim_Barkod::warn(const QString &text)
 
 // Printing
 
+/// A label on which the price is missing is worse than none.
+bool Tanim_Barkod::hasPrices()
+{
+    const BarkodTipi *tip = chosenType();
+    if (tip == nullptr)
+        return true;
+    const QList<SorulanAlan> missing = missingPrices(*tip, askedValues());
+    if (missing.isEmpty())
+        return true;
+    m_context.messages.say(this,
+                           u"%1 etiket tipi %2 alanını basar; değeri girilmelidir."_s.arg(
+                               tip->BarkodTip_Ad, missing.first().baslik),
+                           MessageIcon::Exclamation);
+    for (const AskedBox &asked : std::as_const(m_asked)) {
+        if (asked.alan == missing.first().alan)
+            asked.box->setFocus(Qt::TabFocusReason);
+    }
+    return false;
+}
+
+QMap<QString, QString> Tanim_Barkod::askedValues() const
+{
+    QMap<QString, QString> values;
+    for (const AskedBox &asked : m_asked)
+        values[asked.alan] = asked.box->text();
+    return values;
+}
+
 PrintDocument Tanim_Barkod::document() const
 {
     Etiket etiket = m_found->etiket;
@@ -252,8 +312,7 @@ PrintDocument Tanim_Barkod::document() const
     veriler.firma = m_context.oturum.SirketAdi;
     if (const int special = m_ui->OzelUrun->currentIndex(); special > 0)
         veriler.ozelUrun = tip->ozelUrunler[special - 1];
-    for (const AskedBox &asked : m_asked)
-        veriler.sorulan[asked.alan] = asked.box->text();
+    veriler.sorulan = askedValues();
     constexpr QSize largest(1200, 1200);
     if (tip->resim && !m_ui->Picture1->path().isEmpty())
         veriler.resim = loadPicture(m_ui->Picture1->path(), largest).image;
@@ -263,12 +322,14 @@ PrintDocument Tanim_Barkod::document() const
 /// Once printed, the next model can be typed at once.
 void Tanim_Barkod::print()
 {
-    m_labelPrinter.print(document(), m_settings.YaziciAdi);
+    if (!hasPrices() || !m_labels.print(this, document(), m_settings.YaziciAdi))
+        return;
     m_ui->Model->setFocus();
     TumunuSec(*m_ui->Model);
 }
 
 void Tanim_Barkod::preview()
 {
-    m_context.viewer.show(this, document());
+    if (hasPrices())
+        m_context.viewer.show(this, document());
 }

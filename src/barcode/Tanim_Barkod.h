@@ -2,12 +2,12 @@
 
 #include "EtiketSablonu.h"
 #include "EtiketStore.h"
+#include "LabelPrinter.h"
 #include "ScreenContext.h"
 
 #include <memory>
 #include <QDialog>
 
-class LabelPrinter;
 class QLabel;
 class QLineEdit;
 
@@ -27,6 +27,7 @@ public:
     ~Tanim_Barkod() override;
 
 protected:
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
@@ -47,6 +48,7 @@ private:
     void pick(const QString &filter);
     void find(const QString &model, qint32 TipID);
     void showModel(const EtiketModeli &found);
+    void clearTyped();
     void clear();
 
     const BarkodTipi *chosenType() const;
@@ -55,12 +57,14 @@ private:
     void warn(const QString &text);
     void updateButtons();
 
+    bool hasPrices();
+    QMap<QString, QString> askedValues() const;
     PrintDocument document() const;
     void print();
     void preview();
 
     ScreenContext m_context;
-    LabelPrinter &m_labelPrinter;
+    LabelOutlet m_labels;
     EtiketStore m_store;
     std::unique_ptr<Ui::Tanim_Barkod> m_ui;
     EtiketAyari m_settings;

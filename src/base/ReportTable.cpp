@@ -23,6 +23,7 @@ QString ReportTable::cellText(qsizetype row, qsizetype column) const
         return value.typeId() == QMetaType::QDate ? formatDate(value.toDate()) : value.toString();
     case ReportColumnKind::Text:
     case ReportColumnKind::Model:
+    case ReportColumnKind::ModelType:
         break;
     }
     return value.toString();

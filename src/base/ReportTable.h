@@ -1,13 +1,14 @@
 #pragma once
 
 #include <QList>
-#include <QString>
+#include <QStringList>
 #include <QVariant>
 
 /// What a report's column holds, which settles how it stands and sorts.
 enum class ReportColumnKind {
     Text,
-    Model, ///< a model's code: outputs that bear pictures show the model's beside it
+    Model,     ///< a model's code: outputs that bear pictures show the model's beside it
+    ModelType, ///< the short name of the product type as which the row's model stands
     Number,
     Date,
 };
@@ -42,6 +43,7 @@ struct ReportTable
     QString title;
     QList<ReportColumn> columns;
     QList<ReportRow> rows;
+    QStringList notes{}; ///< what the figures must not be read without; told on every output
 
     /// A cell as it is shown: a number by its column's picture, dates as
     /// dd.MM.yyyy, an empty cell as nothing.

@@ -233,8 +233,13 @@ void Tanim_Katalog::tellRows()
 
 void Tanim_Katalog::ModelBul()
 {
-    const LookupAnswer answer =
-        m_context.openList(this, {u"Model Listesi"_s, m_ui->txtModel->text().trimmed(), true});
+    const QString text = m_ui->txtModel->text().trimmed();
+    // A label is scanned: the list would begin at its digits, with another model.
+    if (const auto label = LabelLookup(m_context.oturum).find(text)) {
+        takeLabel(*label, text);
+        return;
+    }
+    const LookupAnswer answer = m_context.openList(this, {u"Model Listesi"_s, text, true});
     QList<KatalogSatiri> models;
     for (const LookupAnswer &one :
          answer.Secilenler.empty() ? std::vector<LookupAnswer>{answer} : answer.Secilenler) {
@@ -244,6 +249,17 @@ void Tanim_Katalog::ModelBul()
             models.append(*model);
     }
     takeModels(models);
+}
+
+void Tanim_Katalog::takeLabel(const LabelledModel &label, const QString &text)
+{
+    const auto model = label.isFound() ? m_store.ModelBul(label.Model, label.TipID) : std::nullopt;
+    if (model) {
+        showModel(*model);
+        return;
+    }
+    m_context.messages.say(this, label.whyNot() + u"\n\n"_s + text, MessageIcon::Exclamation);
+    TumunuSec(*m_ui->txtModel);
 }
 
 /// One model goes into the entry boxes, several at once into the catalogue.

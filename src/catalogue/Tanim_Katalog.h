@@ -2,6 +2,7 @@
 
 #include "KatalogBaski.h"
 #include "KatalogStore.h"
+#include "LabelLookup.h"
 #include "ScreenContext.h"
 
 #include <memory>
@@ -51,6 +52,7 @@ private:
     void pickCatalogue();
     void KatalogBul(const QString &KatAdi);
     void ModelBul();
+    void takeLabel(const LabelledModel &label, const QString &text);
     void takeModels(const QList<KatalogSatiri> &models);
     void showModel(const KatalogSatiri &model);
     void add();

@@ -93,6 +93,10 @@ QList<TableDef> masterTables()
           text(u"kataciklama"_s, 100)},
          {index({u"KatAdi"_s})}},
         {u"KatalogSira"_s, {text(u"KatAdi"_s, 255)}, {key({u"KatAdi"_s})}},
+        {u"EskiEtiket"_s,
+         {longField(u"Ilk"_s), longField(u"Son"_s), text(u"Model"_s, 255),
+          longField(u"M_Uruntip"_s)},
+         {index({u"Son"_s, u"Ilk"_s})}},
     };
 }
 

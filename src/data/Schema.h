@@ -14,7 +14,7 @@ const QList<TableDef> &companyTables();
 const QList<TableDef> &registryTables();
 
 /// The layout version this program writes.
-constexpr int currentSchemaVersion = 2;
+constexpr int currentSchemaVersion = 3;
 
 /// Whether the file holds a company, of whatever layout: users, customers,
 /// models and orders.

@@ -51,6 +51,7 @@ Liste_Combo::Liste_Combo(Oturum &oturum, Messages &messages, const LookupRequest
         hint += u"  , Shift+Ok, Ctrl+Tık : Birden çok seç"_s;
     }
     m_ui->Ipucu->setText(m_list.hint.isEmpty() ? hint : m_list.hint + u"  , "_s + hint);
+    m_ui->Kurlar->setVisible(m_list.source == LookupSource::Rates);
     m_ui->Resim->setVisible(m_list.picture != LookupPicture::None);
 
     connect(m_model, &LookupModel::progressed, this, &Liste_Combo::showProgress);
@@ -97,7 +98,22 @@ void Liste_Combo::setUpGrid()
                 if (current.isValid())
                     m_column = current.column();
                 m_pictureTimer.start(0);
+                if (m_list.source == LookupSource::Rates)
+                    showRates();
             });
+}
+
+/// The highlighted date's rates to their last digit, which the columns round.
+void Liste_Combo::showRates()
+{
+    const QModelIndex current = m_ui->Rapor->currentIndex();
+    QStringList rates;
+    for (int column = 1; current.isValid() && column < m_model->columnCount(); ++column) {
+        const QString rate = current.siblingAtColumn(column).data(Qt::ToolTipRole).toString();
+        if (!rate.isEmpty())
+            rates.append(m_model->columns()[column].heading.trimmed() + u" : "_s + rate);
+    }
+    m_ui->Kurlar->setText(rates.join(u"  ,  "_s));
 }
 
 /// What a column's heading and its first rows take.

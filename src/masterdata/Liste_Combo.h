@@ -35,6 +35,7 @@ protected:
 
 private:
     void setUpGrid();
+    void showRates();
     int neededWidth(int column) const;
     void showColumns(int room);
     void setUpSize();

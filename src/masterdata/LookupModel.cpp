@@ -263,8 +263,10 @@ QVariant LookupModel::data(const QModelIndex &index, int role) const
     if (!checkIndex(index, CheckIndexOption::IndexIsValid))
         return {};
     switch (role) {
-    case Qt::DisplayRole:
     case Qt::ToolTipRole:
+        // What the column's picture hides.
+        return lookupText(stored(m_shown[std::size_t(index.row())], index.column()));
+    case Qt::DisplayRole:
         return text(m_shown[std::size_t(index.row())], index.column());
     case Qt::TextAlignmentRole:
         return int(m_columns[index.column()].alignment | Qt::AlignVCenter);

@@ -1,5 +1,6 @@
 #include "ModelStore.h"
 
+#include "LabelLookup.h"
 #include "Numbers.h"
 #include "Oturum.h"
 #include "SqlText.h"
@@ -152,8 +153,10 @@ void ModelStore::save(Model &model, bool found) const
 {
     Transaction rewrite(*m_oturum->Veritabani);
     const QString replaced = found ? kayitlar(model.ad, model.M_Uruntip).join(u", "_s) : QString();
-    if (found)
+    if (found) {
+        retireLabels(*m_oturum, model.ad, model.M_Uruntip);
         m_oturum->calistir(u"DELETE From Model "_s + keyCondition(model.ad, model.M_Uruntip));
+    }
     Recordset rows = m_oturum->Veritabani->table(u"Model"_s);
     bool any = false;
     for (const ModelSatiri &material : std::as_const(model.satirlar)) {
@@ -175,5 +178,8 @@ void ModelStore::save(Model &model, bool found) const
 
 void ModelStore::remove(const QString &model, qint32 TipID) const
 {
+    Transaction removal(*m_oturum->Veritabani);
+    retireLabels(*m_oturum, model, TipID);
     m_oturum->calistir(u"DELETE From Model "_s + keyCondition(model, TipID));
+    removal.commit();
 }

@@ -3,6 +3,7 @@
 #include "DocumentViewer.h"
 #include "EntryControls.h"
 #include "Guarded.h"
+#include "LabelLookup.h"
 #include "LabelPrinter.h"
 #include "MalzemeModel.h"
 #include "ModelFoyu.h"
@@ -23,7 +24,7 @@ Tanim_Model::Tanim_Model(const ScreenContext &context, LabelPrinter &labelPrinte
                          const CameraOpener &openCamera, QWidget *parent)
     : TanimEkrani(context, parent),
       m_store(context.oturum),
-      m_labelPrinter(labelPrinter),
+      m_labels(labelPrinter, context.messages),
       m_ui(std::make_unique<Ui::Tanim_Model>()),
       m_materials(new MalzemeModel(this)),
       m_types(m_store.UrunTipleri()),
@@ -106,12 +107,24 @@ void Tanim_Model::setUpLook()
 /// The name goes on to the product type, which finds.
 void Tanim_Model::keyEntered(QWidget *key)
 {
-    if (key == m_ui->UrunTipi || key == m_ui->CmdBul)
+    if (key == m_ui->UrunTipi || key == m_ui->CmdBul || (key == m_ui->Model && takeLabel()))
         Bul();
     else if (hasKey())
         goTo(m_ui->UrunTipi);
     else
         TanimEkrani::keyEntered(key);
+}
+
+/// A scanned label names both keys.
+bool Tanim_Model::takeLabel()
+{
+    const auto label = LabelLookup(oturum()).find(m_ui->Model->text().trimmed());
+    if (!label || !label->isFound())
+        return false;
+    m_ui->Model->setText(label->Model);
+    m_ui->UrunTipi->setCurrentIndex(-1);
+    ComboSecNo(*m_ui->UrunTipi, label->TipID);
+    return true;
 }
 
 bool Tanim_Model::pickKey()
@@ -321,15 +334,16 @@ void Tanim_Model::ResimKaydet(const Model &model)
 void Tanim_Model::etiketBas(const Model &model)
 {
     try {
-        const QString karat = formatNumber(leadingNumber(m_ui->txtsabitayar->text()), u"#0");
-        m_labelPrinter.print(etiketBelgesi({model.M_Uruntip,
-                                            model.Model_ID,
-                                            model.ad,
-                                            model.M_Miktar,
-                                            karat,
-                                            tip().UrunTipi,
-                                            {}}),
-                             m_labelSettings.YaziciAdi);
+        const EtiketAyari shown{leadingNumber(m_ui->txtsabitayar->text()), {}};
+        m_labels.print(this,
+                       etiketBelgesi({model.M_Uruntip,
+                                      model.Model_ID,
+                                      model.ad,
+                                      model.M_Miktar,
+                                      shown.karat(),
+                                      tip().UrunTipi,
+                                      {}}),
+                       m_labelSettings.YaziciAdi);
     } catch (const std::exception &error) {
         context().messages.say(
             this, u"KAYIT YAPILDI, ETİKET BASILAMADI.\n\n"_s + QString::fromUtf8(error.what()),

@@ -1,13 +1,13 @@
 #pragma once
 
 #include "EtiketStore.h"
+#include "LabelPrinter.h"
 #include "ModelStore.h"
 #include "ResimAlani.h"
 #include "TanimEkrani.h"
 
 #include <memory>
 
-class LabelPrinter;
 class MalzemeModel;
 
 namespace Ui {
@@ -31,6 +31,7 @@ private:
     template <typename Action>
     void bindAction(QPushButton *button, Action action);
 
+    bool takeLabel();
     bool pickKey() override;
     Found readRow() override;
     bool writeRow() override;
@@ -59,7 +60,7 @@ private:
     void yazdir();
 
     ModelStore m_store;
-    LabelPrinter &m_labelPrinter;
+    LabelOutlet m_labels;
     std::unique_ptr<Ui::Tanim_Model> m_ui;
     MalzemeModel *m_materials;
     ResimAlani *m_picture = nullptr;

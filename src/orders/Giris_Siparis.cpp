@@ -4,7 +4,9 @@
 #include "Guarded.h"
 #include "ModelEntry.h"
 #include "Numbers.h"
+#include "OrderCode.h"
 #include "Oturum.h"
+#include "ScannedNumber.h"
 #include "SiparisModel.h"
 #include "Theme.h"
 #include "ui_Giris_Siparis.h"
@@ -111,6 +113,10 @@ void Giris_Siparis::connectControls()
     for (QCheckBox *box : {m_ui->Check_Kisaad, m_ui->Check_Kod, m_ui->Check_AD, m_ui->Check_Resim})
         connect(box, &QCheckBox::clicked, this, &Giris_Siparis::keepSlipChoice);
     keepNumeric(*m_ui->Sipnum, m_context.messages);
+    m_ui->Sipnum->setMaxLength(orderNumberLength);
+    const auto isOrderCode = [](const QString &text) { return readOrderCode(text).has_value(); };
+    connect(new ScannedNumber(m_ui->Sipnum, isOrderCode), &ScannedNumber::complete, this,
+            [this] { guarded(m_context.messages, this, [this] { numberEntered(); }); });
     keepNumeric(*m_ui->Ayar, m_context.messages);
     for (DateBox *date : {m_ui->SipTrh, m_ui->TesTrh})
         keepDate(*date, m_context.messages);
@@ -128,10 +134,10 @@ void Giris_Siparis::connectGrid()
     connect(m_ui->Rapor->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &current) {
                 if (current.isValid())
-                    ResimGoster(m_model->rowAt(current.row()).model, PictureError::Skip);
+                    ResimGoster(current.row(), PictureError::Skip);
             });
     connect(m_modelEntry, &ModelEntry::modelTaken, this,
-            [this](const QString &model) { ResimGoster(model, PictureError::Tell); });
+            [this](int row) { ResimGoster(row, PictureError::Tell); });
     connect(m_modelEntry, &ModelEntry::warning, this,
             [this](const QString &text) { showWarning(text.isEmpty() ? m_notice : text); });
 }
@@ -171,7 +177,7 @@ void Giris_Siparis::enterPressed()
     };
     QWidget *from = focusWidget();
     if (from == m_ui->Sipnum)
-        SiparisBul(leadingNumber(m_ui->Sipnum->text()));
+        numberEntered();
     else if (from == m_ui->FirAdi)
         FirmaBul();
     else if (auto *button = qobject_cast<QAbstractButton *>(from))

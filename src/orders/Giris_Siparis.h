@@ -67,6 +67,7 @@ private:
     void abandon();
 
     // Finding and filling
+    void numberEntered();
     void SiparisBul(double number);
     QString whyNotSaved(double number) const;
     void SiparisDoldur(const Siparis &siparis);
@@ -83,7 +84,7 @@ private:
     void pickFixedColour();
     bool takeScanPastControls(QKeyEvent *event);
     enum class PictureError { Tell, Skip };
-    void ResimGoster(const QString &model, PictureError onError);
+    void ResimGoster(int row, PictureError onError);
     void showWarning(const QString &text);
 
     // Saving

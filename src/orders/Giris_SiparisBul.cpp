@@ -4,6 +4,7 @@
 #include "Guarded.h"
 #include "ModelEntry.h"
 #include "Numbers.h"
+#include "OrderCode.h"
 #include "Oturum.h"
 #include "SiparisModel.h"
 #include "ui_Giris_Siparis.h"
@@ -14,6 +15,20 @@
 using namespace Qt::StringLiterals;
 
 /// The order entry screen: finding orders, customers and pictures.
+
+/// A number that was typed, or a slip's bar code.
+void Giris_Siparis::numberEntered()
+{
+    const OrderNumberEntry entry = readOrderNumber(m_ui->Sipnum->text());
+    if (!entry.refusal.isEmpty()) {
+        m_context.messages.say(this, entry.refusal, MessageIcon::Exclamation);
+        m_ui->Sipnum->selectAll();
+        return;
+    }
+    if (readOrderCode(m_ui->Sipnum->text()))
+        m_ui->Sipnum->setText(plainNumber(entry.number));
+    SiparisBul(entry.number);
+}
 
 void Giris_Siparis::SiparisBul(double number)
 {
@@ -197,14 +212,16 @@ void Giris_Siparis::pickFixedColour()
     m_modelEntry->setFixedColour(answer.Secilen);
 }
 
-void Giris_Siparis::ResimGoster(const QString &model, PictureError onError)
+void Giris_Siparis::ResimGoster(int row, PictureError onError)
 {
+    const SiparisSatiri &satir = m_model->rowAt(row);
     // A new, still empty row leaves the picture of the model before.
-    if (model.isEmpty())
+    if (satir.model.isEmpty())
         return;
     QString error;
     try {
-        m_ui->Resim->showFile(m_lookups.picturePath(model));
+        const QStringList types = satir.orderedTypes(m_model->tipler());
+        m_ui->Resim->showFile(m_lookups.picturePath(satir.model, types));
         error = m_ui->Resim->error();
     } catch (const std::exception &failure) {
         error = QString::fromUtf8(failure.what());

@@ -1,7 +1,7 @@
 #include "ModelEntry.h"
 
 #include "Guarded.h"
-#include "ProductLabel.h"
+#include "OrderCode.h"
 #include "SiparisModel.h"
 #include "TurkishText.h"
 
@@ -37,9 +37,8 @@ ModelOutcome ModelEntry::take(const QString &text, ModelSource source)
     std::optional<FoundModel> found;
     if (!text.isEmpty())
         found = m_lookups.model(text);
-    if (!found && m_quickEntry && readLabel(text)) {
-        m_notFound.append(text);
-        warn(u"ETİKET BULUNAMADI"_s);
+    if (!found && (readLabel(text) || readOrderCode(text))) {
+        tellUnknownLabel(text);
         return ModelOutcome::Refused;
     }
     if (!found && source == ModelSource::Left) {
@@ -54,9 +53,23 @@ ModelOutcome ModelEntry::take(const QString &text, ModelSource source)
     if (!found)
         return ModelOutcome::Refused;
     putIntoRow(row, *found);
-    Q_EMIT modelTaken(found->Model);
+    Q_EMIT modelTaken(row);
     GridKontrol(row);
     return found->KisaAD.isEmpty() ? ModelOutcome::Taken : ModelOutcome::Counted;
+}
+
+/// No list opens for a label: it would begin at the digits, and the Enter that
+/// a scanner sends behind them would order whatever model stands there.
+void ModelEntry::tellUnknownLabel(const QString &text)
+{
+    const LabelledModel label = m_lookups.etiket(text).value_or(LabelledModel());
+    const QString why = readOrderCode(text)
+                            ? u"BU BİR SİPARİŞ FİŞİNİN BARKODU, ÜRÜN ETİKETİ DEĞİL"_s
+                            : label.whyNot();
+    m_notFound.append(label.Model.isEmpty() ? text : text + u" = "_s + label.Model);
+    warn(why);
+    if (!m_quickEntry)
+        m_context.messages.say(m_grid->window(), why + u"\n\n"_s + text, MessageIcon::Exclamation);
 }
 
 std::optional<FoundModel> ModelEntry::pickFromList(const QString &filter) const

@@ -26,10 +26,11 @@ public:
 Q_SIGNALS:
     /// For the screen's own line; an empty text clears it.
     void warning(const QString &text);
-    void modelTaken(const QString &model);
+    void modelTaken(int row);
 
 private:
     ModelOutcome take(const QString &text, ModelSource source);
+    void tellUnknownLabel(const QString &text);
     std::optional<FoundModel> pickFromList(const QString &filter) const;
     void putIntoRow(int row, const FoundModel &found);
     void GridKontrol(int row);

@@ -2,38 +2,35 @@
 
 #include "TurkishText.h"
 
-static QString key(const QString &code)
+static QString key(const PictureWish &wish)
 {
-    return foldedText(code.trimmed());
+    QStringList parts{wish.kod.trimmed()};
+    for (const QString &tip : wish.tipler)
+        parts.append(tip.trimmed());
+    return foldedText(parts.join(u'\n'));
 }
 
-bool ModelPictures::read(const Siparis &siparis, const PictureProgress &progress)
+bool ModelPictures::read(const QList<PictureWish> &wishes, const PictureProgress &progress)
 {
-    QStringList models;
-    for (const SiparisSatiri &row : siparis.satirlar)
-        models.append(row.model);
-    return read(models, progress);
-}
-
-bool ModelPictures::read(const QStringList &codes, const PictureProgress &progress)
-{
-    QStringList wanted;
-    for (const QString &code : codes) {
-        if (!code.trimmed().isEmpty() && !m_pictures.contains(key(code))) {
-            m_pictures.insert(key(code), {});
-            wanted.append(code.trimmed());
+    QList<PictureWish> wanted;
+    for (const PictureWish &wish : wishes) {
+        if (!wish.kod.trimmed().isEmpty() && !m_paths.contains(key(wish))) {
+            m_paths.insert(key(wish), {});
+            wanted.append({wish.kod.trimmed(), wish.tipler});
         }
     }
     for (qsizetype i = 0; i < wanted.size(); ++i) {
         if (!progress(int(i), int(wanted.size())))
             return false;
-        if (const QString path = m_pathOf(wanted[i]); !path.isEmpty())
-            m_pictures[key(wanted[i])] = loadPicture(path, m_mostPixels).image;
+        const QString path = m_pathOf(wanted[i]);
+        m_paths[key(wanted[i])] = path;
+        if (!path.isEmpty() && !m_images.contains(path))
+            m_images.insert(path, loadPicture(path, m_mostPixels).image);
     }
     return true;
 }
 
-QImage ModelPictures::resim(const QString &code) const
+QImage ModelPictures::resim(const PictureWish &wish) const
 {
-    return m_pictures.value(key(code));
+    return m_images.value(m_paths.value(key(wish)));
 }

@@ -8,18 +8,29 @@
 #include <QImage>
 #include <QSize>
 
-/// Where the picture of a code is; empty for one without.
-using PicturePath = std::function<QString(const QString &code)>;
+/// What a picture is wanted of: a model as one or more product types, or a mold.
+struct PictureWish
+{
+    QString kod;
+    QStringList tipler = {}; ///< short names; none where the row does not say
+    friend bool operator==(const PictureWish &, const PictureWish &) = default;
+};
 
-/// The pictures of models or molds, each read once and no larger than needed.
-/// The image that is handed out is always the same, so that a document with it
-/// in many places holds it once.
+/// Where the picture is; empty where there is none.
+using PicturePath = std::function<QString(const PictureWish &wish)>;
+
+/// The pictures of models or molds, each file read once and no larger than
+/// needed. The image that is handed out is always the same, so that a document
+/// with it in many places holds it once.
 class ModelPictures
 {
 public:
     ModelPictures(const OrderLookups &lookups, QSize mostPixels)
-        : ModelPictures([lookups](const QString &model) { return lookups.picturePath(model); },
-                        mostPixels)
+        : ModelPictures(
+              [lookups](const PictureWish &wish) {
+                  return lookups.picturePath(wish.kod, wish.tipler);
+              },
+              mostPixels)
     {
     }
     ModelPictures(PicturePath pathOf, QSize mostPixels)
@@ -27,14 +38,14 @@ public:
     {
     }
 
-    /// Reads the pictures of all rows; false when it was stopped.
-    bool read(const Siparis &siparis, const PictureProgress &progress);
-    bool read(const QStringList &codes, const PictureProgress &progress);
-    /// Null for a code whose picture is missing or broken, or was not read.
-    QImage resim(const QString &code) const;
+    /// Reads the pictures; false when it was stopped.
+    bool read(const QList<PictureWish> &wishes, const PictureProgress &progress);
+    /// Null where the picture is missing or broken, or was not read.
+    QImage resim(const PictureWish &wish) const;
 
 private:
     PicturePath m_pathOf;
     QSize m_mostPixels;
-    QHash<QString, QImage> m_pictures; ///< by folded code
+    QHash<QString, QString> m_paths; ///< by wish
+    QHash<QString, QImage> m_images; ///< by path
 };

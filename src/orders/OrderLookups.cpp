@@ -3,7 +3,6 @@
 #include "Numbers.h"
 #include "Oturum.h"
 #include "PictureFiles.h"
-#include "ProductLabel.h"
 #include "SqlText.h"
 #include "TurkishText.h"
 
@@ -21,22 +20,10 @@ std::optional<OrderCustomer> OrderLookups::firma(double Firkod) const
 
 std::optional<FoundModel> OrderLookups::model(const QString &text) const
 {
-    const std::optional<FoundModel> scanned = etiket(text);
-    return scanned ? scanned : byCode(text);
-}
-
-std::optional<FoundModel> OrderLookups::etiket(const QString &text) const
-{
-    const std::optional<ProductLabel> label = readLabel(text);
-    if (!label)
-        return std::nullopt;
-    Recordset Kayit = m_oturum->sorgula(
-        u"Select * FROM Model INNER JOIN UrunTipi ON Model.M_Uruntip = UrunTipi.TipID "
-        "Where Model_ID = "_s +
-        sqlNumber(label->Model_ID) + u" and m_uruntip = "_s + sqlNumber(label->TipID));
-    if (!Kayit.next())
-        return std::nullopt;
-    return FoundModel{Kayit.text(u"Model"), Kayit.text(u"KisaAD")};
+    const std::optional<LabelledModel> scanned = etiket(text);
+    if (scanned && scanned->isFound())
+        return FoundModel{scanned->Model, scanned->KisaAD};
+    return byCode(text);
 }
 
 std::optional<FoundModel> OrderLookups::byCode(const QString &kod) const
@@ -82,17 +69,12 @@ QHash<QString, QStringList> OrderLookups::typesOfOrder(qint32 Sipnum) const
     return types;
 }
 
-QString OrderLookups::picturePath(const QString &model) const
+QString OrderLookups::picturePath(const QString &model, const QStringList &tipler) const
 {
     const QString &folder = m_oturum->ResimYolu;
-    QString path = modelPicturePath(folder, model, {});
-    if (!path.isEmpty() || folder.isEmpty())
-        return path;
-    for (const QString &KisaAD : pictureTypes(model)) {
-        path = modelPicturePath(folder, model, KisaAD);
-        if (!path.isEmpty())
-            break;
-    }
+    QString path = modelPicturePath(folder, model, tipler);
+    if (path.isEmpty() && !folder.isEmpty())
+        path = modelPicturePath(folder, model, pictureTypes(model));
     return path;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include <optional>
+#include "LabelLookup.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -35,7 +36,11 @@ public:
     /// text, and a label that is not known, counts as a model code. Of codes
     /// that differ only in letter case the one typed exactly so is taken.
     std::optional<FoundModel> model(const QString &text) const;
-    std::optional<FoundModel> etiket(const QString &text) const;
+    /// What a scanned label stands for; nothing for a text that is none.
+    std::optional<LabelledModel> etiket(const QString &text) const
+    {
+        return LabelLookup(*m_oturum).find(text);
+    }
     /// Whether the model code is defined.
     bool hasModel(const QString &model) const;
     /// The short names of the product types that the model has.
@@ -43,8 +48,9 @@ public:
     /// The same for all models of an order's lines, by folded model code.
     QHash<QString, QStringList> typesOfOrder(qint32 Sipnum) const;
     /// A model's picture: in the picture folder itself, or else in the folder
-    /// of one of its product types; empty when there is none.
-    QString picturePath(const QString &model) const;
+    /// of a product type; empty when there is none. The types that are asked
+    /// for, by short name, come before the model's other ones.
+    QString picturePath(const QString &model, const QStringList &tipler = {}) const;
     /// The colours in their display order.
     QStringList colours() const;
     /// The product type of a short name; 0 for an unknown one.

@@ -12,11 +12,17 @@ std::optional<PrintDocument> orderSlip(Oturum &oturum, const Siparis &siparis,
 
     const OrderLookups lookups(oturum);
     ModelPictures pictures(lookups, picturePixels(choice.adet));
-    if (!pictures.read(siparis, progress))
+    const auto wish = [&siparis](const SiparisSatiri &row) {
+        return PictureWish{row.model, row.orderedTypes(siparis.tipler)};
+    };
+    QList<PictureWish> wishes;
+    for (const SiparisSatiri &row : siparis.satirlar)
+        wishes.append(wish(row));
+    if (!pictures.read(wishes, progress))
         return std::nullopt;
     const PictureSlipSource source{
         siparis, choice.kimlik, grams,
-        [&pictures](const QString &model) { return pictures.resim(model); },
+        [&](const SiparisSatiri &row) { return pictures.resim(wish(row)); },
         [&lookups](const QString &model) { return lookups.UrGram(model); }};
     if (choice.adet == 15)
         return Yazdir_Resimli_15(source);

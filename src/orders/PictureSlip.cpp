@@ -38,7 +38,7 @@ private:
     void writeRow(const SiparisSatiri &row, double grams);
     void writeBlock(const QStringList &lines);
     void writeNoteOverrun();
-    void picture(const QString &model);
+    void picture(const SiparisSatiri &row);
 
     const PictureLayout &m_layout;
     const PictureSlipSource &m_source;
@@ -84,7 +84,7 @@ void PictureSlip::writeRow(const SiparisSatiri &row, double grams)
     const RowWeights rowWeights{m_layout.weights ? m_source.UrGram(row.model) : 0, grams};
     QStringList lines = cellLines(m_layout, row, m_source.siparis.tipler, rowWeights);
     beginCell(Cell::First);
-    picture(row.model.trimmed());
+    picture(row);
     const int perCell = m_layout.linesPerCell();
     writeBlock(lines.mid(0, perCell));
     const int column = m_layout.columns().model;
@@ -109,15 +109,15 @@ void PictureSlip::writeBlock(const QStringList &lines)
     }
 }
 
-void PictureSlip::picture(const QString &model)
+void PictureSlip::picture(const SiparisSatiri &row)
 {
     const PictureRoom box{
         {listAt.x - PictureLayout::pictureOffset, m_y - PictureLayout::pictureOffset},
         m_layout.pictureWidth,
         m_layout.pictureHeight()};
-    const QImage image = m_source.resim(model);
+    const QImage image = m_source.resim(row);
     if (image.isNull())
-        missingPicture(m_pages.document(), box, model);
+        missingPicture(m_pages.document(), box, row.model.trimmed());
     else
         m_pages.document().picture(box.at, box.width, box.height, image);
 }

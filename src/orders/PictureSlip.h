@@ -11,8 +11,8 @@ struct PictureSlipSource
     const Siparis &siparis;
     MusteriKimligi kimlik = MusteriKimligi::Kisa;
     OrderGrams grams;
-    /// A model's picture; null when there is none that can be shown.
-    std::function<QImage(const QString &model)> resim;
+    /// The picture of a row's model; null when there is none that can be shown.
+    std::function<QImage(const SiparisSatiri &row)> resim;
     /// Grams of one piece of a model.
     std::function<double(const QString &model)> UrGram;
 };

@@ -24,6 +24,16 @@ SiparisSatiri SiparisSatiri::empty(qsizetype typeCount)
     return row;
 }
 
+QStringList SiparisSatiri::orderedTypes(const QList<UrunTipi> &tipler) const
+{
+    QStringList names;
+    for (qsizetype i = 0; i < std::min(adetler.size(), tipler.size()); ++i) {
+        if (adetler[i] != 0)
+            names.append(tipler[i].KisaAD);
+    }
+    return names;
+}
+
 qint64 SiparisSatiri::totalCount() const
 {
     return std::accumulate(adetler.begin(), adetler.end(), qint64(0));

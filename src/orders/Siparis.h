@@ -58,6 +58,8 @@ struct SiparisSatiri
 
     /// An empty row for that many product types.
     static SiparisSatiri empty(qsizetype typeCount);
+    /// The short names of the product types of these columns that are ordered.
+    QStringList orderedTypes(const QList<UrunTipi> &tipler) const;
     /// The sum of the quantities.
     qint64 totalCount() const;
     /// What the line under that column carries.

@@ -56,6 +56,7 @@ public:
 
 private:
     void splitNote();
+    void orderNumber();
     void customerLine();
     QString customer() const;
     Twips headingBottom() const;

@@ -183,10 +183,17 @@ PictureResult refused(const QString &path, const QString &why)
 
 QString modelPicturePath(const QString &folder, const QString &model, const QString &shortName)
 {
+    return modelPicturePath(folder, model, QStringList{shortName});
+}
+
+QString modelPicturePath(const QString &folder, const QString &model, const QStringList &shortNames)
+{
     if (folder.isEmpty())
         return {};
-    const QString inRoot = pictureIn(folder, model);
-    return inRoot.isEmpty() ? pictureBelow(folder, shortName, model) : inRoot;
+    QString path = pictureIn(folder, model);
+    for (qsizetype i = 0; path.isEmpty() && i < shortNames.size(); ++i)
+        path = pictureBelow(folder, shortNames[i], model);
+    return path;
 }
 
 QString moldPicturePath(const QString &folder, const QString &code)

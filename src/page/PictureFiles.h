@@ -4,7 +4,7 @@
 #include <QByteArray>
 #include <QImage>
 #include <QSize>
-#include <QString>
+#include <QStringList>
 
 /// The JPEG files of models and molds, named after their codes. Names are
 /// found without regard to case on every system. A code that is no plain file
@@ -14,6 +14,10 @@
 /// folder/model.jpg, or else folder/shortName/model.jpg, shortName being the
 /// product type's; empty when neither is there.
 QString modelPicturePath(const QString &folder, const QString &model, const QString &shortName);
+
+/// The same for several product types: the first that has one counts.
+QString modelPicturePath(const QString &folder, const QString &model,
+                         const QStringList &shortNames);
 
 /// folder/KLP/code.jpg; empty when it is not there.
 QString moldPicturePath(const QString &folder, const QString &code);

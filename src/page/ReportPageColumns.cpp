@@ -30,8 +30,8 @@ int widestCell(const ReportTable &table, qsizetype column)
 /// Figures stand in one line; texts are broken where they are long.
 int fittedWidth(const ReportTable &table, qsizetype column)
 {
-    const bool text = table.columns[column].kind == ReportColumnKind::Text ||
-                      table.columns[column].kind == ReportColumnKind::Model;
+    const bool text = table.columns[column].kind != ReportColumnKind::Number &&
+                      table.columns[column].kind != ReportColumnKind::Date;
     const int cells = widestCell(table, column);
     return qMax(int(table.columns[column].heading.size()), text ? qMin(cells, widestText) : cells);
 }

@@ -163,6 +163,7 @@ private:
     void writePicture(qsizetype row, qsizetype column, lxw_col_t at);
     void writeText(lxw_col_t at, const QString &text, lxw_format *format);
     void finish();
+    void writeNotes();
     lxw_format *format(ReportRowKind kind, const QString &picture, bool right);
     void check(lxw_error error) const { m_book.check(error); }
 
@@ -313,7 +314,7 @@ void SheetWriter::writePicture(qsizetype row, qsizetype column, lxw_col_t at)
     if (about.kind != ReportRowKind::Line)
         return;
     const QString model = about.values[column].toString();
-    const SheetThumbnails::Thumbnail thumbnail = m_thumbnails.of(model);
+    const SheetThumbnails::Thumbnail thumbnail = m_thumbnails.of(row, column);
     if (thumbnail.file.isEmpty())
         return;
     QByteArray description = model.toUtf8();
@@ -355,6 +356,20 @@ void SheetWriter::finish()
         }
     }
     worksheet_set_selection(m_page, 0, 0, 0, 0);
+    writeNotes();
+}
+
+/// Below the rows, apart from them. They reach over columns, and widen none.
+void SheetWriter::writeNotes()
+{
+    for (const QString &note : m_table.notes) {
+        ++m_row;
+        if (figures())
+            worksheet_set_row(m_page, m_row, textRowPoints, nullptr);
+        const QByteArray bytes = sheetText(note);
+        m_book.count(cellBytes + bytes.size());
+        check(worksheet_write_string(m_page, m_row, 0, bytes.constData(), nullptr));
+    }
 }
 
 /// Made once for each look: headings and captions, lines, totals.

@@ -10,8 +10,9 @@ enum class SheetForm {
     Sayilarla, ///< figures and dates that can be reckoned with
 };
 
-/// The picture file of a model; empty where it has none.
-using PictureFinder = std::function<QString(const QString &model)>;
+/// The picture file of a model as a product type, whose short name is empty
+/// where the report does not say; empty where there is none.
+using PictureFinder = std::function<QString(const QString &model, const QString &KisaAD)>;
 /// Told how many of how many are done; false stops the work.
 using SheetProgress = std::function<bool(int done, int total)>;
 

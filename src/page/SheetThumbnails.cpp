@@ -14,11 +14,6 @@ constexpr int sharpness = 2;     ///< stored pixels for one of the box
 constexpr int screenDots = 3780; ///< to the metre, 96 to the inch
 constexpr int thumbnailQuality = 80;
 
-QString key(const QString &model)
-{
-    return foldedText(model.trimmed());
-}
-
 } // namespace
 
 SheetThumbnails::SheetThumbnails(const ReportSheet &sheet, const QString &prefix)
@@ -28,26 +23,45 @@ SheetThumbnails::SheetThumbnails(const ReportSheet &sheet, const QString &prefix
 
 bool SheetThumbnails::make(const SheetProgress &progress)
 {
-    QStringList models;
-    for (qsizetype column = 0; m_sheet.picture && column < m_sheet.table.columns.size(); ++column) {
-        if (m_sheet.table.columns[column].kind != ReportColumnKind::Model)
+    QList<std::pair<const ReportRow *, qsizetype>> wanted; // with the model's column
+    const ReportTable &table = m_sheet.table;
+    for (qsizetype column = 0; m_sheet.picture && column < table.columns.size(); ++column) {
+        if (table.columns[column].kind != ReportColumnKind::Model)
             continue;
-        for (const ReportRow &row : m_sheet.table.rows) {
-            const QString model = row.values[column].toString();
-            if (row.kind == ReportRowKind::Line && !m_thumbnails.contains(key(model))) {
-                m_thumbnails.insert(key(model), {});
-                models.append(model);
+        for (const ReportRow &row : table.rows) {
+            if (row.kind == ReportRowKind::Line && !m_thumbnails.contains(key(row, column))) {
+                m_thumbnails.insert(key(row, column), {});
+                wanted.append({&row, column});
             }
         }
     }
-    for (qsizetype i = 0; i < models.size(); ++i) {
-        if (!progress(int(i), int(models.size())))
+    for (qsizetype i = 0; i < wanted.size(); ++i) {
+        if (!progress(int(i), int(wanted.size())))
             return false;
-        if (const QString path = m_sheet.picture(models[i]); !path.isEmpty())
-            m_thumbnails[key(models[i])] = makeOne(path, i);
-        m_any = m_any || !m_thumbnails[key(models[i])].file.isEmpty();
+        const auto &[row, column] = wanted[i];
+        Thumbnail &thumbnail = m_thumbnails[key(*row, column)];
+        const QString path = m_sheet.picture(row->values[column].toString(), typeIn(*row));
+        if (!path.isEmpty())
+            thumbnail = makeOne(path, i);
+        m_any = m_any || !thumbnail.file.isEmpty();
     }
     return true;
+}
+
+/// Empty where the report does not say it.
+QString SheetThumbnails::typeIn(const ReportRow &row) const
+{
+    const QList<ReportColumn> &columns = m_sheet.table.columns;
+    for (qsizetype i = 0; i < columns.size(); ++i) {
+        if (columns[i].kind == ReportColumnKind::ModelType)
+            return row.values[i].toString();
+    }
+    return {};
+}
+
+QString SheetThumbnails::key(const ReportRow &row, qsizetype column) const
+{
+    return foldedText(row.values[column].toString().trimmed() + u'\n' + typeIn(row).trimmed());
 }
 
 SheetThumbnails::Thumbnail SheetThumbnails::makeOne(const QString &path, qsizetype number) const
@@ -64,7 +78,7 @@ SheetThumbnails::Thumbnail SheetThumbnails::makeOne(const QString &path, qsizety
     return {QFile::encodeName(file), double(edge) / qMax(image.width(), image.height())};
 }
 
-SheetThumbnails::Thumbnail SheetThumbnails::of(const QString &model) const
+SheetThumbnails::Thumbnail SheetThumbnails::of(qsizetype row, qsizetype column) const
 {
-    return m_thumbnails.value(key(model));
+    return m_thumbnails.value(key(m_sheet.table.rows[row], column));
 }

@@ -25,13 +25,16 @@ public:
     /// Makes them; false when it was stopped.
     bool make(const SheetProgress &progress);
     bool any() const { return m_any; }
-    Thumbnail of(const QString &model) const;
+    /// Of the model in that row of the column.
+    Thumbnail of(qsizetype row, qsizetype column) const;
 
 private:
+    QString typeIn(const ReportRow &row) const;
+    QString key(const ReportRow &row, qsizetype column) const;
     Thumbnail makeOne(const QString &path, qsizetype number) const;
 
     const ReportSheet &m_sheet;
     QString m_prefix;
-    QHash<QString, Thumbnail> m_thumbnails; ///< by folded model code
+    QHash<QString, Thumbnail> m_thumbnails; ///< by folded model code and type
     bool m_any = false;
 };

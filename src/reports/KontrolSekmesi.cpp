@@ -4,7 +4,9 @@
 #include "EntryControls.h"
 #include "Guarded.h"
 #include "Numbers.h"
+#include "OrderCode.h"
 #include "Oturum.h"
+#include "ScannedNumber.h"
 #include "StoppableWork.h"
 #include "TakipModel.h"
 #include "Theme.h"
@@ -66,6 +68,10 @@ void KontrolSekmesi::connectControls()
     bind(m_ui->cmdKayit1, &KontrolSekmesi::save);
     bind(m_ui->cmdVazgec1, &KontrolSekmesi::clearTab);
     keepNumeric(*m_ui->Sipnum, m_context.messages);
+    m_ui->Sipnum->setMaxLength(orderNumberLength);
+    const auto isOrderCode = [](const QString &text) { return readOrderCode(text).has_value(); };
+    connect(new ScannedNumber(m_ui->Sipnum, isOrderCode), &ScannedNumber::complete, this,
+            [this] { guarded(m_context.messages, this, [this] { numberEntered(); }); });
     connect(m_ui->Rapor1, &TakipGrid::abandoned, this, &KontrolSekmesi::escape);
     connect(m_ui->Rapor1->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this] { m_modelTimer.start(0); });
@@ -119,7 +125,20 @@ void KontrolSekmesi::numberEntered()
     if (m_ui->Sipnum->text().trimmed().isEmpty())
         pickOrder();
     else
-        SiparisBul(leadingNumber(m_ui->Sipnum->text()));
+        openEntered(readOrderNumber(m_ui->Sipnum->text()));
+}
+
+/// A number that was typed, or a slip's bar code.
+void KontrolSekmesi::openEntered(const OrderNumberEntry &entry)
+{
+    if (entry.refusal.isEmpty()) {
+        if (readOrderCode(m_ui->Sipnum->text()))
+            m_ui->Sipnum->setText(plainNumber(entry.number));
+        SiparisBul(entry.number);
+        return;
+    }
+    m_context.messages.say(this, entry.refusal, MessageIcon::Exclamation);
+    m_ui->Sipnum->selectAll();
 }
 
 void KontrolSekmesi::pickOrder()
@@ -189,9 +208,8 @@ void KontrolSekmesi::tellHiddenLines(const QList<KeptLine> &lines)
 void KontrolSekmesi::showModel()
 {
     const QModelIndex current = m_ui->Rapor1->currentIndex();
-    m_ui->modelPaneli->goster(current.isValid()
-                                  ? current.siblingAtColumn(TakipModel::Model).data().toString()
-                                  : QString());
+    const TakipSatiri row = current.isValid() ? m_model->satirlar()[current.row()] : TakipSatiri();
+    m_ui->modelPaneli->goster(row.model, row.KisaAD);
 }
 
 // Leaving and saving

@@ -8,6 +8,7 @@
 #include <QWidget>
 
 class TakipModel;
+struct OrderNumberEntry;
 
 namespace Ui {
 class KontrolSekmesi;
@@ -36,6 +37,7 @@ private:
     bool isOpen() const { return m_Sipnum != 0; }
     void setOpen(bool on);
     void numberEntered();
+    void openEntered(const OrderNumberEntry &entry);
     void pickOrder();
     void SiparisBul(double number);
     void SiparisDoldur(const TakipSiparisi &siparis);

@@ -1,6 +1,6 @@
 #include "ModelPaneli.h"
 
-#include "OrderLookups.h"
+#include "ReportPictures.h"
 #include "ui_ModelPaneli.h"
 #include "UretimStore.h"
 
@@ -24,7 +24,7 @@ ModelPaneli::ModelPaneli(QWidget *parent)
 
 ModelPaneli::~ModelPaneli() = default;
 
-void ModelPaneli::goster(const QString &model)
+void ModelPaneli::goster(const QString &model, const QString &KisaAD)
 {
     const UretimStore store(*m_oturum);
     const bool any = !model.trimmed().isEmpty();
@@ -33,7 +33,7 @@ void ModelPaneli::goster(const QString &model)
     if (!tipler.isEmpty())
         ad += u" ("_s + tipler.join(u", "_s) + u')';
     m_ui->modelAdi->setText(ad);
-    m_ui->Resim->showFile(any ? OrderLookups(*m_oturum).picturePath(model) : QString());
+    m_ui->Resim->showFile(any ? reportPicture(*m_oturum, model, KisaAD) : QString());
     m_ui->Kaliplar->setTable(
         malzemeTable(u"KALIP"_s, any ? store.kaliplar(model) : QList<UretimMalzemesi>()));
     m_ui->Taslar->setTable(

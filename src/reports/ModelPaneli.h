@@ -19,8 +19,9 @@ public:
 
     /// Must outlive it; called once.
     void setOturum(Oturum &oturum) { m_oturum = &oturum; }
-    /// An empty model empties it. Throws DatabaseError.
-    void goster(const QString &model);
+    /// The model as the product type of the row that it stands in. An empty
+    /// model empties it. Throws DatabaseError.
+    void goster(const QString &model, const QString &KisaAD);
 
 private:
     Oturum *m_oturum = nullptr;

@@ -15,7 +15,7 @@ ReportTable orderSharesTable(const QString &title, const QList<OrderShare> &shar
                      {u"NO"_s, Kind::Number, u"0"_s},
                      {u"FİRMA"_s},
                      {u"MODEL"_s, Kind::Model},
-                     {u"TİP"_s},
+                     {u"TİP"_s, Kind::ModelType},
                      {u"RENK"_s},
                      {u"ADET"_s, Kind::Number},
                      {u"BİRİM"_s, Kind::Number},

@@ -1,10 +1,18 @@
 #include "ReportPictures.h"
 
 #include "OrderLookups.h"
+#include "Oturum.h"
+#include "PictureFiles.h"
+
+QString reportPicture(Oturum &oturum, const QString &model, const QString &KisaAD)
+{
+    return KisaAD.isEmpty() ? OrderLookups(oturum).picturePath(model)
+                            : modelPicturePath(oturum.ResimYolu, model, KisaAD);
+}
 
 PictureFinder reportPictures(Oturum &oturum)
 {
-    return [lookups = OrderLookups(oturum)](const QString &model) {
-        return lookups.picturePath(model);
+    return [&oturum](const QString &model, const QString &KisaAD) {
+        return reportPicture(oturum, model, KisaAD);
     };
 }

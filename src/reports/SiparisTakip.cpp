@@ -86,6 +86,7 @@ QList<TakipSatiri> SiparisTakip::readLines(qint32 Sipnum) const
         seen.insert(id);
         lines.append({id,
                       Kayit.text(u"SipModel"),
+                      Kayit.text(u"KisaAD"),
                       Kayit.text(u"Siprenk"),
                       qint32(Kayit.integer(u"SipAdet")),
                       Kayit.text(u"SipAck"),

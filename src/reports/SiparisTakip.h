@@ -12,6 +12,7 @@ struct TakipSatiri
 {
     qint32 Dotosayi = 0;
     QString model;
+    QString KisaAD; ///< the product type's short name
     QString renk;
     qint32 adet = 0;
     QString aciklama;

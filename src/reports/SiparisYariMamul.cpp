@@ -46,7 +46,7 @@ SiparisYariMamul::SiparisYariMamul(Oturum &oturum, const SiparisBasligi &siparis
     using Kind = ReportColumnKind;
     m_modeller.title = u"YARI MAMUL RAPORU - MODELLER"_s;
     m_modeller.columns = {{u"ÜRÜN KODU"_s, Kind::Model},
-                          {u"TİP"_s},
+                          {u"TİP"_s, Kind::ModelType},
                           {u"ADET"_s, Kind::Number},
                           {u"GRAM"_s, Kind::Number, gramPicture()},
                           {u"HAS"_s, Kind::Number, gramPicture()}};

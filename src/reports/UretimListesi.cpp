@@ -2,6 +2,7 @@
 
 #include "Oturum.h"
 #include "PictureFiles.h"
+#include "ReportPictures.h"
 #include "TurkishText.h"
 #include "UretimStore.h"
 #include "Yazdir0.h"
@@ -89,19 +90,25 @@ std::optional<PrintDocument> uretimRaporu(Oturum &oturum, const UretimListesi &l
 {
     if (yazdirma == UretimYazdirma::Yazili)
         return Yazdir0_2(liste);
-    QStringList models;
-    QStringList molds;
+    QList<PictureWish> models;
+    QList<PictureWish> molds;
     for (const UretimBlogu &blok : liste.bloklar) {
-        models.append(blok.satir.model);
+        models.append({blok.satir.model, {blok.satir.KisaAD}});
         for (const UretimMalzemesi &kalip : blok.kaliplar)
-            molds.append(kalip.kod);
+            molds.append({kalip.kod});
     }
-    ModelPictures modelPictures(OrderLookups(oturum), modelDots());
+    ModelPictures modelPictures(
+        [&oturum](const PictureWish &wish) {
+            return reportPicture(oturum, wish.kod, wish.tipler.first());
+        },
+        modelDots());
     ModelPictures moldPictures(
-        [&oturum](const QString &kod) { return moldPicturePath(oturum.ResimYolu, kod); },
+        [&oturum](const PictureWish &wish) { return moldPicturePath(oturum.ResimYolu, wish.kod); },
         moldDots());
     if (!modelPictures.read(models, progress) || !moldPictures.read(molds, progress))
         return std::nullopt;
-    return Yazdir0_1(liste, {[&](const QString &kod) { return modelPictures.resim(kod); },
-                             [&](const QString &kod) { return moldPictures.resim(kod); }});
+    return Yazdir0_1(liste, {[&](const UretimSatiri &satir) {
+                                 return modelPictures.resim({satir.model, {satir.KisaAD}});
+                             },
+                             [&](const QString &kod) { return moldPictures.resim({kod}); }});
 }

@@ -256,8 +256,8 @@ void UretimSekmesi::refresh()
 void UretimSekmesi::showModel()
 {
     const QModelIndex current = m_ui->Yedek0->rows()->currentIndex();
-    m_ui->modelPaneli->goster(current.isValid() ? current.siblingAtColumn(0).data().toString()
-                                                : QString());
+    const auto text = [&](int column) { return current.siblingAtColumn(column).data().toString(); };
+    m_ui->modelPaneli->goster(text(0), text(2));
 }
 
 void UretimSekmesi::showLines(qsizetype row)

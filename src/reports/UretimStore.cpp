@@ -52,7 +52,8 @@ ReportTable UretimStore::adetler(qint32 Sipnum, const UretimFiltre &filtre) cons
     using Kind = ReportColumnKind;
     ReportTable table;
     table.title = u"Sipariş %1"_s.arg(Sipnum);
-    table.columns = {{u"MODEL"_s, Kind::Model}, {u"ADET"_s, Kind::Number}, {u"TİP"_s}};
+    table.columns = {
+        {u"MODEL"_s, Kind::Model}, {u"ADET"_s, Kind::Number}, {u"TİP"_s, Kind::ModelType}};
     Recordset Kayit = m_oturum->sorgula(
         u"Select Sipmodel, Kisaad, Sum(Sipadet) as Topadet FROM SiparisD INNER JOIN UrunTipi "
         "ON SiparisD.SipUruntip = UrunTipi.TipID "

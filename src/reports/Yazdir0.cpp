@@ -118,7 +118,7 @@ public:
 
 private:
     SayfaBlogu layOut(const UretimBlogu &blok) const;
-    SayfaSeridi pictureStrip(const QString &model, const QList<SayfaSeridi> &beside) const;
+    SayfaSeridi pictureStrip(const UretimSatiri &satir, const QList<SayfaSeridi> &beside) const;
     SayfaSeridi moldStrip(const QList<UretimMalzemesi> &kaliplar) const;
 
     const UretimListesi &m_liste;
@@ -137,11 +137,12 @@ void draw(PrintDocument &document, const PictureRoom &box, const QImage &image, 
 }
 
 /// The picture, and beside it the lines that find room there.
-SayfaSeridi PictureSheet::pictureStrip(const QString &model, const QList<SayfaSeridi> &beside) const
+SayfaSeridi PictureSheet::pictureStrip(const UretimSatiri &satir,
+                                       const QList<SayfaSeridi> &beside) const
 {
     const Twips height = std::max(modelHeight, heightOf(beside)) + pictureGap;
-    return {height,
-            [image = m_resimler.model(model), model, beside](PrintDocument &document, Twips y) {
+    return {height, [image = m_resimler.model(satir), model = satir.model,
+                     beside](PrintDocument &document, Twips y) {
                 draw(document, {{left, y}, modelWidth, modelHeight}, image, model);
                 for (const SayfaSeridi &serit : beside) {
                     serit.draw(document, y);
@@ -194,7 +195,7 @@ SayfaBlogu PictureSheet::layOut(const UretimBlogu &blok) const
     while (beside < text.size() && height + text[beside].height <= modelHeight)
         height += text[beside++].height;
 
-    SayfaBlogu result{{pictureStrip(satir.model, text.first(beside))}, continued(ne)};
+    SayfaBlogu result{{pictureStrip(satir, text.first(beside))}, continued(ne)};
     result.seritler += text.mid(beside);
     for (qsizetype i = 0; i < blok.kaliplar.size(); i += moldsPerLine)
         result.seritler.append(moldStrip(blok.kaliplar.mid(i, moldsPerLine)));

@@ -6,11 +6,11 @@
 #include <QImage>
 #include <QSize>
 
-/// The pictures of a sheet by the codes of models and molds; null where there
+/// The pictures of a sheet's rows and of molds by their codes; null where there
 /// is none that can be shown.
 struct UretimResimleri
 {
-    std::function<QImage(const QString &kod)> model;
+    std::function<QImage(const UretimSatiri &satir)> model;
     std::function<QImage(const QString &kod)> kalip;
 };
 

@@ -330,6 +330,7 @@ private Q_SLOTS:
         QCOMPARE(refused.exitCode, 1);
         QVERIFY2(refused.error.contains(u"%TFYT%"_s), qPrintable(refused.error));
         QVERIFY(!QFile::exists(pdf));
+        QCOMPARE(kuyum(words + QStringList{u"--alan"_s, u"TFYT="_s}).exitCode, 1);
         words += {u"--alan"_s, u"TFYT=1=500"_s};
         QCOMPARE(kuyum(words).exitCode, 0);
         QVERIFY(pdfWord(pdf, u"Atölye"_s).page == 1 && pdfWord(pdf, u"1=500"_s).page == 1);
@@ -346,6 +347,16 @@ private Q_SLOTS:
         const Outcome refused = draw(u"code39"_s, u"ı"_s);
         QCOMPARE(refused.exitCode, 1);
         QVERIFY2(refused.error.contains(u"\"ı\""_s), qPrintable(refused.error));
+
+        // What stands below the bars is what they say.
+        const QString pdf = m_folder.filePath(u"ean.pdf"_s);
+        QCOMPARE(kuyum({u"barkod"_s, u"ean13"_s, u"12345"_s, u"--pdf"_s, pdf}).exitCode, 0);
+        QCOMPARE(pdfWord(pdf, u"0000000123457"_s).page, 1);
+        QCOMPARE(draw(u"ean13"_s, u"5901234123457"_s).exitCode, 0);
+        QCOMPARE(readBarcodes(QImage(png)), QStringList{u"EAN-13:5901234123457"_s});
+        for (const QString &wrong :
+             {u"5901234123456"_s, u"59012341234571"_s, u"A90123412345"_s, QString()})
+            QCOMPARE(draw(u"ean13"_s, wrong).exitCode, 1);
     }
 
     void aCompanyIsBackedUpCheckedAndRestored()

@@ -73,6 +73,22 @@ private Q_SLOTS:
         QCOMPARE(labelTexts(document).first().at.x == Twips(left * 10), left != 343);
     }
 
+    void aColumnMakesWayWhole()
+    {
+        // Two columns right of the symbol: only the first begins below its widest
+        // place, with a line above and one below the symbol.
+        const BarkodTipi tip =
+            smallLabel({field(u"A"_s, 343, 10), field(u"B"_s, 360, 30), field(u"C"_s, 343, 95),
+                        field(u"D"_s, 500, 30), field(u"E"_s, 350, 95)});
+        QList<int> lefts;
+        for (const PageText &text : labelTexts(sablonBelgesi(ring, tip, {})))
+            lefts.append(qRound(text.at.x.count()));
+        QCOMPARE(lefts[2], lefts[0]);
+        QCOMPARE(lefts[1], lefts[0] + 170);
+        QVERIFY(lefts[0] > 3430);
+        QCOMPARE(lefts.mid(3), (QList<int>{5000, 3500}));
+    }
+
     void aSheetsLabelIsPrintedInItsPlace()
     {
         BarkodTipi tip = smallLabel({field(u"%KOD%"_s, 20, 30)});

@@ -2,6 +2,7 @@
 #include "BarcodeReader.h"
 #include "BarkodKutusu.h"
 #include "DocumentViewer.h"
+#include "EntryControls.h"
 #include "LabelPrinter.h"
 #include "LabelTexts.h"
 #include "Oturum.h"
@@ -83,11 +84,32 @@ private Q_SLOTS:
         enter(u"Nişan"_s);
         QCOMPARE(focus(), u"cmdBarkod"_s);
         enter();
+        // Held down, the key goes neither on nor prints a second label.
+        for (int i = 0; i < 10; ++i) {
+            QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, u"\r"_s, true);
+            QCoreApplication::sendEvent(m_screen->focusWidget(), &held);
+        }
+        const QSignalSpy pressed(m_screen->findChild<QPushButton *>(u"cmdBarkod"_s),
+                                 &QPushButton::pressed);
+        qt_sendShortcutOverrideEvent(m_screen->focusWidget(), 0, Qt::Key_B, Qt::AltModifier, u"b"_s,
+                                     true);
+        QCOMPARE(focus(), u"Model"_s);
+        QCOMPARE(m_printer.labels.size() + pressed.count(), 1);
         QCOMPARE(labelLines(m_printer.labels.value(0, PrintDocument(QString()))),
                  (QStringList{u"boş"_s, u"3.75"_s, u"750"_s, u"Nişan"_s}));
         QCOMPARE(m_printer.printers, QStringList{u"Zebra"_s});
 
-        // The next one at once.
+        // The next one at once, from a label that was printed long ago.
+        m_oturum->Veritabani->execute(
+            u"Insert Into EskiEtiket (Ilk, Son, Model, M_Uruntip) Values (90, 95, 'İNCI-1', 3)"_s);
+        enter(u"1600300000916"_s);
+        QCOMPARE(text(u"Model"_s), u"İnci-1"_s);
+        QCOMPARE(text(u"txtAciklama"_s), QString());
+        m_screen->findChild<QLineEdit *>(u"Model"_s)->setFocus();
+        m_screen->findChild<QLineEdit *>(u"Model"_s)->selectAll();
+        enter(u"1600300000961"_s);
+        QVERIFY(!canPrint());
+        TumunuSec(*m_screen->findChild<QLineEdit *>(u"Model"_s));
         enter(u"İnci-1"_s);
         QCOMPARE(text(u"txtUruntipi"_s), u"Küpe"_s);
         key(Qt::Key_Escape);
@@ -131,7 +153,7 @@ private Q_SLOTS:
         QCOMPARE(text(u"txtUruntipi"_s), u"Yüzük"_s);
         QCOMPARE(surface(), before);
         // The label of another model than the one that is typed is not printed.
-        QVERIFY(!m_screen->findChild<QPushButton *>(u"cmdBarkod"_s)->isEnabled());
+        QVERIFY(!canPrint());
         QCOMPARE(focus(), u"Model"_s);
     }
 
@@ -169,10 +191,19 @@ private Q_SLOTS:
         QCOMPARE(focus(), u"OzelUrun"_s);
         key(Qt::Key_Down);
         enter();
+        for (const Qt::Key way : {Qt::Key_B, Qt::Key_N}) {
+            m_messages.expect(u"Özel etiket tipi TopFiyat alanını basar; değeri girilmelidir."_s);
+            press(way, way == Qt::Key_B ? u"cmdBarkod"_s : u"cmdOnizleme"_s);
+            QCOMPARE(focus(), u"txtTopFiyat"_s);
+        }
+        QVERIFY(m_printer.labels.isEmpty() && m_preview.shown.isEmpty());
         enter(u"1.500"_s);
         enter();
         QCOMPARE(labelLines(m_printer.labels.value(0, PrintDocument(QString()))),
                  (QStringList{u"ÖZEL Nişan"_s, u"1.500 TL"_s, u"Altın Atölyesi"_s}));
+        enter(u"İnci-1"_s);
+        QCOMPARE(text(u"txtTopFiyat"_s), QString());
+        QCOMPARE(m_screen->findChild<QComboBox *>(u"OzelUrun"_s)->currentIndex(), 0);
         m_screen->findChild<QComboBox *>(u"BarkodTip"_s)->setCurrentIndex(0);
         QVERIFY(!shows(u"txtTopFiyat"_s) && !shows(u"OzelUrun"_s));
     }
@@ -208,6 +239,10 @@ private:
               u"Insert Into Barkodtipozel (btipno, BarkodKod_Kod, BarkodKod_Isim) "
               "Values (1, 'ÖZEL', 'Nişan')"_s})
             m_oturum->Veritabani->execute(sql);
+    }
+    bool canPrint() const
+    {
+        return m_screen->findChild<QPushButton *>(u"cmdBarkod"_s)->isEnabled();
     }
     QString text(const QString &name) const
     {

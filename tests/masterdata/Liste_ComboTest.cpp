@@ -48,6 +48,12 @@ private Q_SLOTS:
         open(u"Kur Listesi"_s);
         QCOMPARE(m_dialog->windowTitle(), u"KUR LISTESI"_s);
         QCOMPARE(headings(), (QStringList{u"TARIH"_s, u"EUR"_s, u"USD"_s}));
+        // The columns round; what they hide is told of the highlighted day.
+        while (m_grid->model()->canFetchMore({}))
+            m_grid->model()->fetchMore({});
+        m_grid->setCurrentIndex(m_grid->model()->index(2, 0));
+        QCOMPARE(m_grid->currentIndex().siblingAtColumn(2).data().toString(), u"36,500"_s);
+        QCOMPARE(text("Kurlar"), u"EUR : 38499.5  ,  USD : 36500.4"_s);
     }
 
     void takesTheHighlightedRow()

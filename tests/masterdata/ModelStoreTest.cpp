@@ -43,6 +43,18 @@ private:
         return result;
     }
 
+    /// The record numbers that models had before.
+    QStringList oldLabels() const
+    {
+        Recordset set =
+            m_oturum->Veritabani->query(u"Select * From EskiEtiket Order by Ilk, M_Uruntip"_s);
+        QStringList result;
+        while (set.next())
+            result.append(u"%1-%2 %3 %4"_s.arg(set.text(u"Ilk"), set.text(u"Son"),
+                                               set.text(u"Model"), set.text(u"M_Uruntip")));
+        return result;
+    }
+
     std::unique_ptr<QTemporaryDir> m_dir;
     std::unique_ptr<Oturum> m_oturum;
     std::unique_ptr<ModelStore> m_store;
@@ -104,6 +116,18 @@ void ModelStoreTest::replacesAFoundModelWholly()
     m_store->remove(u"a75"_s, 2);
     QCOMPARE(rows(u"A75"_s, 2), QStringList());
     QCOMPARE(rows(u"A75"_s, 1).size(), 1);
+
+    // Numbers in a row take one row, over all the saves; another model's do not.
+    Model pearl = *m_store->ModelBul(u"İnci-1"_s, 3);
+    m_store->save(pearl, true);
+    m_store->save(pearl, true);
+    m_store->save(ring, true);
+    QCOMPARE(oldLabels(), QStringList({u"1-2 A75 1"_s, u"3-3 A75 2"_s, u"4-4 İnci-1 3"_s,
+                                       u"6-6 A75 1"_s, u"7-7 İnci-1 3"_s}));
+    m_store->save(ring, true);
+    QCOMPARE(oldLabels().mid(3), QStringList({u"6-6 A75 1"_s, u"7-7 İnci-1 3"_s, u"9-9 A75 1"_s}));
+    m_store->save(ring, true);
+    QCOMPARE(oldLabels().last(), u"9-10 A75 1"_s);
 }
 
 void ModelStoreTest::aFailedWriteKeepsTheOldRows()
@@ -116,6 +140,7 @@ void ModelStoreTest::aFailedWriteKeepsTheOldRows()
                                        "= 1 BEGIN SELECT RAISE(ABORT, 'disk dolu'); END"_s);
     QVERIFY_THROWS_EXCEPTION(DatabaseError, m_store->save(ring, true));
     QCOMPARE(rows(u"A75"_s, 1), before);
+    QCOMPARE(oldLabels(), QStringList());
     QCOMPARE(ring, asked);
 
     m_oturum->Veritabani->engine().run(u"DROP TRIGGER full"_s);

@@ -504,6 +504,13 @@ void Tanim_ModelTest::printsItsLabel()
     for (const QString &text : {u"A75"_s, u"2.00"_s, u"585"_s, u"Yüzük"_s})
         QVERIFY2(texts.contains(text), qPrintable(text));
 
+    on.typeEnter(u"1600100000019"_s); // a label from before that save
+    QCOMPARE(on.text(u"Model"_s), u"A75"_s);
+    on.control<QLineEdit>(u"txtsabitayar"_s)->clear();
+    on.control<QCheckBox>(u"Check_Barkod"_s)->setChecked(true);
+    on.save();
+    QCOMPARE(textsOf(on.labels.printed.last()), texts.filter(QRegularExpression(u"^(?!585$)"_s)));
+
     on.labels.failure = u"Kâğıt bitti."_s;
     on.find(u"A75"_s);
     on.messages.expect({.text = u"KAYIT YAPILDI, ETİKET BASILAMADI.\n\nKâğıt bitti."_s,

@@ -4,6 +4,8 @@
 #include "Giris_Siparis.h"
 #include "KeptDocuments.h"
 #include "Keyboard.h"
+#include "ModelStore.h"
+#include "OrderCode.h"
 #include "OrderFixture.h"
 #include "PrintDocument.h"
 #include "ScriptedMessages.h"
@@ -147,6 +149,7 @@ private Q_SLOTS:
     void removesRows();
     void picksModels();
     void scansLabels();
+    void scansTheSlipsNumber();
     void readsThePrintedLabelOfAModel();
     void quickEntry();
     void scansOnlyAddRows();
@@ -527,8 +530,53 @@ void GirisSiparisTest::scansLabels()
     s.enter(ringLabel);
     QCOMPARE(s.cell(1, 3), u"1"_s);
     QCOMPARE(s.cursor(), std::pair(2, 0));
-    s.enter(u"1600100009991"_s); // no such label: the list
-    QCOMPARE(s.asked.last().ListeFiltre, u"1600100009991"_s);
+    // A label that no model has opens no list, whose first model a scanner's
+    // second Enter would order.
+    s.messages.expect({.text = u"ETİKET BULUNAMADI"_s, .begins = true});
+    s.enter(u"1600100009991"_s);
+    QCOMPARE(s.cursor(), std::pair(2, 0));
+    QCOMPARE(s.cell(2, 0), QString());
+
+    // What is stuck on goods means its model through saves, and tells it later.
+    const ModelStore models(s.oturum);
+    Model ring = *models.ModelBul(u"A75"_s, 1);
+    models.save(ring, true);
+    s.messages.expect(u"TABLODA KAYIT MEVCUT!"_s);
+    s.enter(ringLabel);
+    QCOMPARE(s.cell(2, 0) + s.cell(2, 3), u"A751"_s);
+    models.remove(u"A75"_s, 1);
+    s.messages.expect({.text = u"ETİKETİN MODELİ SİLİNMİŞ: A75 (YZK)"_s, .begins = true});
+    s.enter(ringLabel);
+    s.oturum.calistir(u"Delete From UrunTipi Where KisaAD = 'KPE'"_s);
+    s.messages.expect({.text = u"ETİKETİN ÜRÜN TİPİ SİLİNMİŞ: İnci-1"_s, .begins = true});
+    s.enter(earringLabel);
+    s.messages.expect({.text = u"BU BİR SİPARİŞ FİŞİNİN BARKODU"_s, .begins = true});
+    s.enter(orderCode(1));
+    QCOMPARE(s.cursor(), std::pair(3, 0));
+    QVERIFY(s.asked.isEmpty());
+}
+
+void GirisSiparisTest::scansTheSlipsNumber()
+{
+    Screen s;
+    s.find(orderCode(2)); // a scanner that sends Enter
+    QCOMPARE(s.text(u"Sipnum"_s) + u'/' + s.text(u"Firkod"_s), u"2/20"_s);
+    s.press(u"cmdvazgec"_s);
+    s.type(orderCode(1)); // and one that does not
+    QTRY_COMPARE(s.text(u"Firkod"_s), u"10"_s);
+    QCOMPARE(s.text(u"Sipnum"_s), u"1"_s);
+    s.press(u"cmdvazgec"_s);
+
+    // No part of another code opens an order.
+    const QString misread = orderCode(1).chopped(1) + u'0';
+    for (const auto &[code, refusal] :
+         {std::pair{ringLabel, u"BU BİR ÜRÜN ETİKETİ, SİPARİŞ NUMARASI DEĞİL:"_s},
+          {misread, u"BU BİR SİPARİŞ NUMARASI DEĞİL:"_s}}) {
+        s.messages.expect({.text = refusal, .begins = true});
+        s.find(code);
+        QCOMPARE(QApplication::focusWidget(), s.control(u"Sipnum"_s));
+        QVERIFY(!s.control(u"cmdKayit"_s)->isEnabled());
+    }
 }
 
 /// From the label's dots to the row in the database.

@@ -1,4 +1,6 @@
 #include "PictureSlip.h"
+#include "BarcodeReader.h"
+#include "OrderCode.h"
 #include "OrderFixture.h"
 #include "OrderSlip.h"
 #include "PdfReader.h"
@@ -30,7 +32,7 @@ PrintDocument slip(const Layout &layout, const Siparis &siparis, const QImage &r
     const OrderGrams grams =
         orderGrams(siparis, 13.075, [](const QString &, const QString &) { return 2.0; });
     return layout.write({siparis, MusteriKimligi::Kisa, grams,
-                         [&](const QString &) { return resim; },
+                         [&](const SiparisSatiri &) { return resim; },
                          [](const QString &) { return 2.0; }});
 }
 
@@ -282,6 +284,31 @@ private Q_SLOTS:
         }
         QCOMPARE(places.size(), 60);
         QCOMPARE(objects.size(), 2);
+    }
+
+    /// The plain list's and the pictures'.
+    void theOrdersBarsAreReadFromPaper()
+    {
+        OrderFixture fixture;
+        Siparis siparis = SiparisStore(fixture.oturum).SiparisBul(1).value();
+        siparis.Sipnum = std::numeric_limits<qint32>::max();
+        const QString pdf = fixture.dir.filePath(u"fiş.pdf"_s);
+        const auto goOn = [](int, int) { return true; };
+        for (const int adet : {0, 7, 12, 15}) {
+            const SlipChoice choice{MusteriKimligi::Kisa, adet > 0, adet};
+            const PrintDocument document = orderSlip(fixture.oturum, siparis, choice, goOn).value();
+            QCOMPARE(layoutFault(document), QString());
+            QVERIFY(allText(document).contains(u"SİPARİŞ NO: 2147483647"_s));
+            for (const int dotsPerInch : {203, 300}) {
+                writePdf(document, pdf, dotsPerInch);
+                QCOMPARE(readBarcodes(pdfDots(pdf, dotsPerInch)),
+                         QStringList{u"EAN-13:"_s + orderCode(siparis.Sipnum)});
+            }
+        }
+        // What is not stored yet has no number to be found by.
+        siparis.Sipnum = 0;
+        const PrintDocument unsaved = orderSlip(fixture.oturum, siparis, {}, goOn).value();
+        QVERIFY(!unsaved.hasBars() && !allText(unsaved).contains(u"SİPARİŞ NO:"_s));
     }
 
     void lineTotalsAddUpToTheHeaders()

@@ -61,7 +61,8 @@ private Q_SLOTS:
         write(u"resim/Ilgın 1.JPG"_s, "x");
         write(u"resim/yzk/a5.jpg"_s, "x");
         write(u"resim/KLP/ÇB017.jpg"_s, "x");
-        QCOMPARE(modelPicturePath(m_folder, u"ilgın 1 "_s, {}), m_folder + u"/Ilgın 1.JPG"_s);
+        QCOMPARE(modelPicturePath(m_folder, u"ilgın 1 "_s, QString()),
+                 m_folder + u"/Ilgın 1.JPG"_s);
         QCOMPARE(modelPicturePath(m_folder, u"A5"_s, u"YZK"_s), m_folder + u"/yzk/a5.jpg"_s);
         QCOMPARE(moldPicturePath(m_folder, u"çb017"_s), m_folder + u"/KLP/ÇB017.jpg"_s);
         QCOMPARE(modelPicturePath(m_folder, u"A5"_s, u"KLY"_s), QString());

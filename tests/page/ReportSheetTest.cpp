@@ -107,18 +107,21 @@ private Q_SLOTS:
         QVERIFY(broken.open(QIODevice::WriteOnly) && broken.write("JPEG") == 4);
         broken.close();
         ReportTable table;
-        table.columns = {{u"ADET"_s, Kind::Number}, {u"KOD"_s, Kind::Model}, {u"AD"_s}};
+        table.columns = {
+            {u"ADET"_s, Kind::Number}, {u"KOD"_s, Kind::Model}, {u"TİP"_s, Kind::ModelType}};
         for (const QString &model : {u"uzun"_s, u"bozuk"_s, u"yok"_s, u"UZUN"_s})
             table.rows.append(ReportRow{{1, model, u"x"_s}});
+        table.rows.append(ReportRow{{1, u"uzun"_s, u"y"_s}});
         QStringList asked;
-        const PictureFinder find = [&](const QString &model) {
-            asked.append(model);
-            return model == "yok"_L1 ? QString() : m_folder.filePath(model + u".jpg"_s);
+        const PictureFinder find = [&](const QString &model, const QString &type) {
+            asked.append(model + u' ' + type);
+            return model == "yok"_L1 || type == "y"_L1 ? QString()
+                                                       : m_folder.filePath(model + u".jpg"_s);
         };
         QVERIFY(writeSheet({table, {}, SheetForm::Sayilarla, find}, m_path, goOn));
-        QCOMPARE(asked, (QStringList{u"uzun"_s, u"bozuk"_s, u"yok"_s}));
+        QCOMPARE(asked, (QStringList{u"uzun x"_s, u"bozuk x"_s, u"yok x"_s, u"uzun y"_s}));
         const QList<QStringList> cells = sheetCells(m_path);
-        QCOMPARE(cells[0], (QStringList{u"ADET"_s, u"KOD"_s, u"RESİM"_s, u"AD"_s}));
+        QCOMPARE(cells[0], (QStringList{u"ADET"_s, u"KOD"_s, u"RESİM"_s, u"TİP"_s}));
         QCOMPARE(cells[4], (QStringList{u"1"_s, u"UZUN"_s, QString(), u"x"_s}));
 
         const QString drawing = QString::fromUtf8(part(u"xl/drawings/drawing1.xml"_s));

@@ -196,6 +196,25 @@ private Q_SLOTS:
         QCOMPARE(printedOn(u"Zebra TLP2844"_s), u"Atölye.pdf"_s);
         QCOMPARE(printers.current(), u"Büro"_s);
 
+        // Before it goes to another one, that is asked, once.
+        QFile::remove(m_folder->filePath(u"Atölye.pdf"_s));
+        LabelOutlet outlet(labelPrinter, *m_messages);
+        QVERIFY(outlet.print(nullptr, threePages(), u"Zebra"_s));
+        const ScriptedMessages::Expected question{
+            .text = u"\"Zebra TLP2844\" adlı etiket yazıcısı bu bilgisayarda kurulu değil."_s,
+            .answer = MessageAnswer::No,
+            .defaultAnswer = MessageAnswer::No,
+            .begins = true};
+        m_messages->expect(question);
+        QVERIFY(!outlet.print(nullptr, threePages(), u"Zebra TLP2844"_s));
+        QVERIFY(!QFile::exists(m_folder->filePath(u"Atölye.pdf"_s)));
+        ScriptedMessages::Expected agreed = question;
+        agreed.answer = MessageAnswer::Yes;
+        m_messages->expect(agreed);
+        for (int copy = 0; copy < 2; ++copy)
+            QVERIFY(outlet.print(nullptr, threePages(), u"Zebra TLP2844"_s));
+        QVERIFY(QFile::exists(m_folder->filePath(u"Atölye.pdf"_s)));
+
         const FilePrinters none(*m_settings, {}, m_folder->path());
         QVERIFY_THROWS_EXCEPTION(std::runtime_error,
                                  InstalledLabelPrinter(none).print(threePages(), u"Zebra"_s));

@@ -4,6 +4,7 @@
 #include "ExcelAktar.h"
 #include "KeptDocuments.h"
 #include "Keyboard.h"
+#include "OrderCode.h"
 #include "OrderFixture.h"
 #include "PrintDocument.h"
 #include "Rapor_Genel.h"
@@ -234,7 +235,7 @@ void RaporGenelTest::editsStatusesAndDatesByKeyboard()
     QCOMPARE(s.field(3, u"Drm2"), QStringList({u""_s, u"DÖKÜM"_s}));
     QCOMPARE(s.grid()->model()->rowCount(), 0);
     QVERIFY(s.control(u"Sipnum"_s)->hasFocus());
-    s.find(u"3"_s);
+    s.find(orderCode(3)); // from its slip
     QCOMPARE(s.cell(0, TakipModel::BasTrh), QString());
     QCOMPARE(s.cell(1, TakipModel::BasTrh), u"01.06.2012"_s);
     QCOMPARE(s.cell(1, TakipModel::BitTrh), u"15.06.2012"_s);

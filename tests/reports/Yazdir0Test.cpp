@@ -48,7 +48,8 @@ UretimListesi awkwardList()
 
 UretimResimleri pictures(const QImage &image)
 {
-    return {[image](const QString &) { return image; }, [image](const QString &) { return image; }};
+    return {[image](const UretimSatiri &) { return image; },
+            [image](const QString &) { return image; }};
 }
 
 QImage picture()
@@ -199,7 +200,7 @@ void Yazdir0Test::readsPicturesOnceIntoThePdf()
     const auto count = [&](int, int) { return ++read > 0; };
     const std::optional<PrintDocument> sheet =
         uretimRaporu(oturum, list, UretimYazdirma::Resimli, count);
-    QCOMPARE(read, 4); // two models and two molds
+    QCOMPARE(read, 5); // three models with their types, and two molds
     const QString path = company.dir.filePath(u"uretim.pdf"_s);
     writePdf(*sheet, path);
     // Three lines of the model, each with its mold: two pictures in six places.
@@ -209,6 +210,11 @@ void Yazdir0Test::readsPicturesOnceIntoThePdf()
     for (const QString &line : placed)
         objects.insert(line.split(u' ', Qt::SkipEmptyParts).value(10));
     QCOMPARE(objects.size(), 2);
+    // A necklace's picture stands for no ring of the same code.
+    QVERIFY(QDir().mkpath(oturum.ResimYolu + u"/KLY"_s));
+    QVERIFY(QFile::rename(oturum.ResimYolu + u"/A75.jpg"_s, oturum.ResimYolu + u"/KLY/A75.jpg"_s));
+    writePdf(*uretimRaporu(oturum, list, UretimYazdirma::Resimli, count), path);
+    QCOMPARE(pdfImages(path).size(), 4);
     QVERIFY(!pdfWord(path, u"RAPORU"_s).text.isEmpty());
     QVERIFY(!pdfWord(path, u"Syf:1"_s).text.isEmpty());
     QVERIFY(!uretimRaporu(oturum, list, UretimYazdirma::Resimli, [](int, int) { return false; }));
