@@ -39,7 +39,10 @@ constexpr Command commands[] = {
      u"kuyum uretim VERITABANI SIPARIS[,SIPARIS...] --bas G.A.Y --bit G.A.Y --pdf DOSYA "
      "[--resimli [--resim KLASOR]] [--sipdur DURUM] [--uretdur DURUM]",
      uretimCommand, true},
-    {u"sorgu", u"kuyum sorgu VERITABANI \"SELECT ...\"", sorguCommand},
+    {u"sorgu",
+     u"kuyum sorgu VERITABANI \"SELECT ...\"   (CSV hamdır: = + - @ ile başlayan metin olduğu "
+     "gibi yazılır; hesap tablosuna aktarırken metin olarak alın)",
+     sorguCommand},
     {u"yedekle", u"kuyum yedekle VERITABANI", yedekleCommand},
     {u"geriyukle", u"kuyum geriyukle VERITABANI YEDEK [--ozetsiz]", geriyukleCommand},
     {u"denetle", u"kuyum denetle VERITABANI", denetleCommand},

@@ -17,6 +17,16 @@ QString quoted(QString text)
     return u'"' + text.replace(u'"', u"\"\""_s) + u'"';
 }
 
+/// A spreadsheet takes a text that begins like this for a formula and runs it,
+/// quotes or not. An apostrophe before it makes it a text again; a plain number
+/// runs nothing.
+QString harmless(const QString &text)
+{
+    static const QString begins = u"=+-@\t\r\n"_s;
+    const bool runs = !text.isEmpty() && begins.contains(text.front()) && !isNumeric(text);
+    return runs ? u'\'' + text : text;
+}
+
 /// A date that was computed (the latest of a group, say) comes without the
 /// field's type; its stored form tells.
 bool isStoredDate(const QString &text)
@@ -72,7 +82,7 @@ QString csvHeader(const ReportTable &table)
     QStringList names;
     for (const ReportColumn &column : table.columns) {
         if (!column.hidden)
-            names.append(quoted(column.heading));
+            names.append(quoted(harmless(column.heading)));
     }
     return names.join(u',');
 }
@@ -81,8 +91,10 @@ QString csvRow(const ReportTable &table, qsizetype row)
 {
     QStringList values;
     for (qsizetype column = 0; column < table.columns.size(); ++column) {
+        const QVariant &value = table.rows[row].values[column];
         if (!table.columns[column].hidden)
-            values.append(csvValue(table.rows[row].values[column], false));
+            values.append(value.typeId() == QMetaType::QString ? quoted(harmless(value.toString()))
+                                                               : csvValue(value, false));
     }
     return values.join(u',');
 }
@@ -97,6 +109,10 @@ void writeCsv(const QList<ReportTable> &tables, const QString &path)
         bytes += csvHeader(table).toUtf8() + '\n';
         for (qsizetype row = 0; row < table.rows.size(); ++row)
             bytes += csvRow(table, row).toUtf8() + '\n';
+        if (!table.notes.isEmpty())
+            bytes += '\n';
+        for (const QString &note : table.notes)
+            bytes += quoted(harmless(note)).toUtf8() + '\n';
     }
     file.write(bytes);
 }

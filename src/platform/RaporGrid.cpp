@@ -165,7 +165,7 @@ void RaporGrid::setTable(const ReportTable &table)
 
 ReportTable RaporGrid::table() const
 {
-    ReportTable shown{m_table->title, m_table->columns, {}};
+    ReportTable shown{m_table->title, m_table->columns, {}, m_table->notes};
     shown.rows.reserve(m_table->rows.size());
     for (const RaporModel *model : {m_rowModel, m_totalModel}) {
         for (int row = 0; row < model->rowCount(); ++row)

@@ -14,7 +14,8 @@ PrintDocument stonePages(const SiparisBasligi &siparis, const ReportTable &tasla
                           u"TAŞ KODU               ADET       MİKTAR         "_s + currency +
                               u"         HAS         KAR"_s,
                           {{0, 17}, {18, 9}, {29, 11}, {41, 12}, {54, 11}, {66, 11}}};
-    return reportPages(u"Taş Raporu %1"_s.arg(siparis.Sipnum), baslikSatirlari(siparis), {part});
+    return reportPages(u"Taş Raporu %1"_s.arg(siparis.Sipnum),
+                       baslikSatirlari(siparis) + taslar.notes, {part});
 }
 
 PrintDocument foundryPages(const SiparisBasligi &siparis, const ReportTable &modeller,

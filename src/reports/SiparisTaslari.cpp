@@ -51,6 +51,9 @@ SiparisTaslari::SiparisTaslari(Oturum &oturum, const SiparisBasligi &siparis,
                 asDecimal(toplam.values[column].toDouble() + row.values[column].toDouble());
     }
     m_table.rows.append(toplam);
+    m_table.notes = {u"Kur tarihi: "_s + formatDate(m_oturum.CalismaTarihi)};
+    if (!m_eksikKurlar.isEmpty())
+        m_table.notes.append(eksikKurNotu(m_oturum.CalismaTarihi, m_eksikKurlar));
 }
 
 void SiparisTaslari::read()

@@ -2,6 +2,7 @@
 #include "Database.h"
 #include "Exchange.h"
 #include "Passwords.h"
+#include "ReportTable.h"
 #include "SampleCompany.h"
 #include "SqlText.h"
 #include "TestRegistry.h"
@@ -103,6 +104,24 @@ void SharedProceduresTest::writesCsv()
     Recordset quoted = m_db->query(u"Select 'a\"b' as x"_s);
     QVERIFY(quoted.next());
     QCOMPARE(csvRow(quoted), uR"("a""b")"_s);
+
+    // A report's texts run nothing in a spreadsheet, a query's are what they are.
+    const QStringList formulas = {u"=1+1"_s, u"+A1"_s, u"-A1"_s, u"@x"_s, u"\t=1"_s, u"\r=1"_s};
+    ReportTable table{{}, {{u"=h"_s}, {u"n"_s, ReportColumnKind::Number}}, {}, {u"=not"_s}};
+    QString expected = u"\"'=h\",\"n\"\n"_s;
+    for (const QString &text : formulas) {
+        table.rows.append(ReportRow{{text, -1.5}});
+        expected += u"\"'%1\",-1.5\n"_s.arg(text);
+    }
+    table.rows.append(ReportRow{{u"-2,5"_s, QVariant()}});
+    const QString path = m_folder.filePath(u"rapor.csv"_s);
+    writeCsv({table}, path);
+    QFile file(path);
+    QVERIFY(file.open(QFile::ReadOnly));
+    QCOMPARE(QString::fromUtf8(file.readAll()), expected + u"\"-2,5\",\n\n\"'=not\"\n"_s);
+    Recordset raw = m_db->query(u"Select '=1+1' as x"_s);
+    QVERIFY(raw.next());
+    QCOMPARE(csvRow(raw), uR"("=1+1")"_s);
 }
 
 KUYUM_TEST(SharedProceduresTest)

@@ -1,6 +1,8 @@
 #include "Dates.h"
 #include "Exchange.h"
 #include "Numbers.h"
+#include "OrderReportPages.h"
+#include "PageReading.h"
 #include "RandomCompany.h"
 #include "SiparisTaslari.h"
 #include "SiparisYariMamul.h"
@@ -211,6 +213,15 @@ private:
             QVERIFY(qAbs(total[i + 1].toDouble() - sums[i]) < 1e-6);
         const QStringList &told = report.eksikKurlar();
         QCOMPARE(QSet<QString>(told.begin(), told.end()), missing);
+        // On paper and in every file as well.
+        QCOMPARE(report.table().notes.size(), missing.isEmpty() ? 1 : 2);
+        const PrintDocument pages = stonePages(siparis, report.table());
+        QStringList lines;
+        for (const PageText &text : PageReading::items<PageText>(pages.pages().last()))
+            lines.append(text.text);
+        const QString printed = lines.join(u' ');
+        for (const QString &note : report.table().notes)
+            QVERIFY2(printed.contains(note.left(60)), qPrintable(note));
         checkLines(report.table(),
                    [&](qsizetype row, qsizetype column) { return report.satirlar(row, column); });
     }
