@@ -420,7 +420,7 @@ void GirisKurTest::theUserChoosesWhoseRatesStay()
     const QStringList theirs = s.stored(newDate);
     const QStringList change = {
         u"Kur USD|Satış Kuru|9|1.9"_s, u"Kur EUR|(bütünü)|Satış Kuru: 0|yok"_s,
-        u"Kur TL|(bütünü)|Satış Kuru: 1|yok"_s, u"Kur GBP|(bütünü)|Satış Kuru: 0|yok"_s};
+        u"Kur GBP|(bütünü)|Satış Kuru: 0|yok"_s, u"Kur TL|(bütünü)|Satış Kuru: 1|yok"_s};
     s.messages.expectChange(change, ChangeAnswer::Back);
     s.press(u"Kayit_Cmd"_s);
     QVERIFY(s.isEntering());
