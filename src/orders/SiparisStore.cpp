@@ -115,7 +115,7 @@ RecordRows headerRows(Database &db, qint32 Sipnum)
                 {u"TesTrh"_s, u"Teslim tarihi"_s},
                 {u"SipFirkod"_s, u"Müşteri"_s, lookedUp(db, u"Firma"_s, u"Firkod"_s, u"FirAdi"_s)},
                 {u"Ayar"_s, u"Ayar"_s},
-                {u"Patent"_s, u"Patent"_s},
+                {u"Patent"_s, u"Damga"_s},
                 {u"Aciklama"_s, u"Açıklama"_s}}};
 }
 

@@ -30,6 +30,24 @@ QString explanation(const ChangedMeanwhile &changed)
     return text;
 }
 
+/// A cell wraps between words only, and would cut a word wider than itself.
+QString breakable(const QString &text)
+{
+    constexpr int narrowest = 8; // characters that fit into a cell at every scale
+    constexpr QChar mayBreak(0x200B);
+    QString result;
+    int run = 0;
+    for (const QChar c : text) {
+        run = c.isSpace() ? 0 : run + 1;
+        if (run > narrowest) {
+            result.append(mayBreak);
+            run = 1;
+        }
+        result.append(c);
+    }
+    return result;
+}
+
 } // namespace
 
 ChangeBox::ChangeBox(const ChangedMeanwhile &changed, QWidget *parent) : QDialog(parent)
@@ -59,7 +77,7 @@ QTableWidget *ChangeBox::makeTable(const QList<FieldChange> &changes)
         const QStringList texts = {change.record, change.field, change.loaded, change.mine,
                                    change.standing};
         for (int column = 0; column < Columns; ++column) {
-            auto *item = new QTableWidgetItem(texts[column]);
+            auto *item = new QTableWidgetItem(breakable(texts[column]));
             item->setToolTip(texts[column]);
             // Where his value differs from the one that was opened, it is his change.
             if ((column == Mine && change.mine != change.loaded) ||
