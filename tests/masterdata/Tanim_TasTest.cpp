@@ -86,7 +86,7 @@ private Q_SLOTS:
         on.press(Qt::Key_S, u"cmdsil"_s);
         QCOMPARE(on.stone(u"ZRK 2"_s), u"none"_s);
         on.enter({u"yeni"_s, u"1"_s});
-        on.oturum.Veritabani->execute(u"Insert into Tas (Taskodu, TasFiyati) values ('YENİ', 9)"_s);
+        on.oturum.Veritabani->execute(u"Insert into Tas (Taskodu, TasFiyati) values ('YENI', 9)"_s);
         on.messages.expectChange(
             {u"Taş yeni|Fiyatı|1|9"_s, u"Taş yeni|Birimi|USD|"_s, u"Taş yeni|Katsayısı|0|"_s},
             ChangeAnswer::Theirs);
