@@ -93,27 +93,47 @@ std::optional<KatalogSatiri> KatalogStore::ModelBul(const QString &model, qint32
                          qint32(Kayit.integer(u"Model_ID")), Kayit.text(u"KisaAD")};
 }
 
-void KatalogStore::save(const Katalog &katalog) const
+LoadedRows KatalogStore::oku(const QString &KatAdi) const
 {
-    Transaction rewrite(*m_oturum->Veritabani);
-    deleteRows(katalog.KatAdi);
-    Recordset rows = m_oturum->Veritabani->table(u"Katalog"_s);
-    for (const KatalogSatiri &satir : katalog.satirlar + katalog.keptRows)
-        addRow(rows, katalog.KatAdi, satir);
-    if (katalog.elleSirali) {
+    Database &db = *m_oturum->Veritabani;
+    const QString ofName = u"KatAdi = "_s + sqlText(KatAdi.trimmed());
+    return {
+        db,
+        {{.table = u"Katalog"_s,
+          .where = ofName,
+          .label = u"Model"_s,
+          .fields = {{u"katno1"_s, u"Model"_s, lookedUp(db, u"Model"_s, u"Model_ID"_s, u"Model"_s)},
+                     {u"katgram"_s, u"Gram"_s},
+                     {u"kataciklama"_s, u"Açıklama"_s},
+                     {u"#"_s, u"Sıra"_s}},
+          .identity = {u"katno1"_s},
+          .quiet = {u"#"_s},
+          .ordered = true},
+         {.table = u"KatalogSira"_s,
+          .where = ofName,
+          .label = u"Elle sıralama"_s,
+          .fields = {{u"KatAdi"_s, u"Katalog"_s}}}}};
+}
+
+void KatalogStore::save(const Katalog &katalog, LoadedRows &okunan) const
+{
+    okunan.write(*m_oturum->Veritabani, [&] {
+        deleteRows(katalog.KatAdi);
+        Recordset rows = m_oturum->Veritabani->table(u"Katalog"_s);
+        for (const KatalogSatiri &satir : katalog.satirlar + katalog.keptRows)
+            addRow(rows, katalog.KatAdi, satir);
+        if (!katalog.elleSirali)
+            return;
         Recordset ordered = m_oturum->Veritabani->table(u"KatalogSira"_s);
         ordered.addNew();
         ordered.set(u"KatAdi", katalog.KatAdi);
         ordered.update();
-    }
-    rewrite.commit();
+    });
 }
 
-void KatalogStore::remove(const QString &KatAdi) const
+void KatalogStore::remove(const QString &KatAdi, LoadedRows &okunan) const
 {
-    Transaction removal(*m_oturum->Veritabani);
-    deleteRows(KatAdi);
-    removal.commit();
+    okunan.write(*m_oturum->Veritabani, [&] { deleteRows(KatAdi); });
 }
 
 void KatalogStore::deleteRows(const QString &KatAdi) const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Katalog.h"
+#include "LoadedRows.h"
 
 #include <optional>
 
@@ -18,9 +19,12 @@ public:
     /// A model as a new row of a catalogue; nothing when there is none of that type.
     std::optional<KatalogSatiri> ModelBul(const QString &model, qint32 TipID) const;
 
+    /// The catalogue as it stands: to be taken before it is shown, for the save
+    /// that may follow.
+    LoadedRows oku(const QString &KatAdi) const;
     /// Replaces the catalogue of that name, in one transaction.
-    void save(const Katalog &katalog) const;
-    void remove(const QString &KatAdi) const;
+    void save(const Katalog &katalog, LoadedRows &okunan) const;
+    void remove(const QString &KatAdi, LoadedRows &okunan) const;
 
 private:
     Katalog storedRows(const QString &KatAdi) const;

@@ -7,6 +7,7 @@
 #include "Numbers.h"
 #include "Oturum.h"
 #include "ReadingProgress.h"
+#include "SaveOver.h"
 #include "Theme.h"
 #include "ui_Tanim_Katalog.h"
 #include "WindowSize.h"
@@ -210,6 +211,7 @@ void Tanim_Katalog::pickCatalogue()
 
 void Tanim_Katalog::KatalogBul(const QString &KatAdi)
 {
+    m_loaded = m_store.oku(KatAdi);
     m_opened = m_store.KatalogBul(KatAdi);
     m_model->fill(m_opened);
     m_ui->KatAdi->setText(m_opened.KatAdi);
@@ -355,16 +357,6 @@ Katalog Tanim_Katalog::collect() const
     return {m_opened.KatAdi, m_model->satirlar(), m_opened.keptRows, m_model->elleSirali()};
 }
 
-/// What another program stored since the catalogue was opened is not undone unseen.
-bool Tanim_Katalog::mayReplace()
-{
-    return m_store.KatalogBul(m_opened.KatAdi) == m_opened ||
-           m_context.messages.ask(this,
-                                  u"BU KATALOG AÇILDIKTAN SONRA BAŞKA BİR YERDE DEĞİŞTİRİLMİŞ.\n\n"
-                                  "ÜZERİNE YAZILSIN MI ?"_s,
-                                  MessageIcon::Exclamation, {}, MessageAnswer::No);
-}
-
 /// A model that was chosen but not added would be missing from what is saved.
 void Tanim_Katalog::offerChosen()
 {
@@ -384,9 +376,8 @@ void Tanim_Katalog::save()
         m_ui->txtModel->setFocus(Qt::TabFocusReason);
         return;
     }
-    if (!mayReplace())
+    if (!store([&](LoadedRows &loaded) { m_store.save(katalog, loaded); }))
         return;
-    m_store.save(katalog);
     m_context.messages.say(this, katalog.KatAdi + u" ISIMLI KATALOG OLUŞTURULMUŞTUR...!"_s);
     EkranKapa();
 }
@@ -396,8 +387,20 @@ void Tanim_Katalog::removeCatalogue()
     if (!m_context.messages.ask(this, m_opened.KatAdi + u" SİLİNECEK. ONAYLIYORMUSUNUZ.?"_s,
                                 MessageIcon::Exclamation, {}, MessageAnswer::No))
         return;
-    m_store.remove(m_opened.KatAdi);
-    EkranKapa();
+    if (store([this](LoadedRows &loaded) { m_store.remove(m_opened.KatAdi, loaded); }))
+        EkranKapa();
+}
+
+/// Whether it was written; where another's catalogue stays, it is shown.
+bool Tanim_Katalog::store(const std::function<void(LoadedRows &)> &write)
+{
+    const SaveEnd end = saveOver(m_context.messages, this, m_loaded, write);
+    const QString KatAdi = m_opened.KatAdi;
+    if (end == SaveEnd::Theirs || end == SaveEnd::Gone)
+        EkranKapa();
+    if (end == SaveEnd::Theirs)
+        KatalogBul(KatAdi);
+    return end == SaveEnd::Done;
 }
 
 void Tanim_Katalog::print(QAbstractButton *choice, Katalog_Baski form)

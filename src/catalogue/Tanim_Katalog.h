@@ -62,11 +62,11 @@ private:
     void tellRows();
 
     Katalog collect() const;
-    bool mayReplace();
     bool hasChosen() const;
     void offerChosen();
     void save();
     void removeCatalogue();
+    bool store(const std::function<void(LoadedRows &)> &write);
     using Katalog_Baski = decltype(&Katalog_35);
     void print(QAbstractButton *choice, Katalog_Baski form);
 
@@ -74,6 +74,7 @@ private:
     KatalogStore m_store;
     std::unique_ptr<Ui::Tanim_Katalog> m_ui;
     KatalogModel *m_model;
+    LoadedRows m_loaded;                   ///< as it stood when it was opened
     Katalog m_opened;                      ///< the catalogue as it is stored
     std::optional<KatalogSatiri> m_chosen; ///< the model in the entry boxes
 };

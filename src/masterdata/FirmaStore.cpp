@@ -12,6 +12,22 @@ static QString findSql(qint32 Firkod)
     return u"Select * From Firma Where Firkod = "_s + sqlNumber(Firkod);
 }
 
+QList<RecordRows> FirmaStore::kayit(qint32 Firkod) const
+{
+    return {{.table = u"Firma"_s,
+             .where = u"Firkod = "_s + sqlNumber(Firkod),
+             .label = u"Firma %1"_s.arg(Firkod),
+             .fields = {{u"KisaAD"_s, u"Kısa ad"_s},
+                        {u"FirAdi"_s, u"Firma adı"_s},
+                        {u"Yetkili"_s, u"Yetkili"_s},
+                        {u"Telefon"_s, u"Telefon"_s},
+                        {u"Mail"_s, u"E-posta"_s},
+                        {u"UlkeID"_s, u"Ülke"_s,
+                         lookedUp(*m_oturum->Veritabani, u"Ulkeler"_s, u"ID"_s, u"ulke_ADI"_s)},
+                        {u"Aciklama"_s, u"Açıklama"_s}},
+             .comesBack = true}};
+}
+
 std::optional<Firma> FirmaStore::FirmaBul(qint32 Firkod) const
 {
     Recordset Kayit = m_oturum->sorgula(findSql(Firkod));
@@ -27,23 +43,25 @@ std::optional<Firma> FirmaStore::FirmaBul(qint32 Firkod) const
                  Kayit.text(u"Aciklama")};
 }
 
-void FirmaStore::save(const Firma &firma) const
+void FirmaStore::save(const Firma &firma, LoadedRows &okunan) const
 {
-    Recordset Kayit = m_oturum->sorgula(findSql(firma.Firkod));
-    if (Kayit.next()) {
-        Kayit.edit();
-    } else {
-        Kayit.addNew();
-        Kayit.set(u"Firkod", firma.Firkod);
-    }
-    Kayit.set(u"KisaAD", firma.KisaAD.trimmed());
-    Kayit.set(u"FirAdi", firma.FirAdi.trimmed());
-    Kayit.set(u"Yetkili", firma.Yetkili.trimmed());
-    Kayit.set(u"Telefon", firma.Telefon.trimmed());
-    Kayit.set(u"Mail", firma.Mail.trimmed());
-    Kayit.set(u"UlkeID", firma.UlkeID);
-    Kayit.set(u"Aciklama", firma.Aciklama);
-    Kayit.update();
+    okunan.write(*m_oturum->Veritabani, [&] {
+        Recordset Kayit = m_oturum->sorgula(findSql(firma.Firkod));
+        if (Kayit.next()) {
+            Kayit.edit();
+        } else {
+            Kayit.addNew();
+            Kayit.set(u"Firkod", firma.Firkod);
+        }
+        Kayit.set(u"KisaAD", firma.KisaAD.trimmed());
+        Kayit.set(u"FirAdi", firma.FirAdi.trimmed());
+        Kayit.set(u"Yetkili", firma.Yetkili.trimmed());
+        Kayit.set(u"Telefon", firma.Telefon.trimmed());
+        Kayit.set(u"Mail", firma.Mail.trimmed());
+        Kayit.set(u"UlkeID", firma.UlkeID);
+        Kayit.set(u"Aciklama", firma.Aciklama);
+        Kayit.update();
+    });
 }
 
 bool FirmaStore::hasOrders(qint32 Firkod) const
@@ -53,9 +71,14 @@ bool FirmaStore::hasOrders(qint32 Firkod) const
         .next();
 }
 
-void FirmaStore::remove(qint32 Firkod) const
+void FirmaStore::remove(qint32 Firkod, LoadedRows &okunan) const
 {
-    m_oturum->calistir(u"DELETE From Firma Where Firkod = "_s + sqlNumber(Firkod));
+    okunan.write(*m_oturum->Veritabani, [&] {
+        // One that another placed while the question stood open.
+        if (hasOrders(Firkod))
+            throw DatabaseError(u"SİPARİŞ BİLGİSİ MEVCUT, SİLİNEMEZ..."_s);
+        m_oturum->calistir(u"DELETE From Firma Where Firkod = "_s + sqlNumber(Firkod));
+    });
 }
 
 QList<Ulke> FirmaStore::ulkeler() const
@@ -69,6 +92,7 @@ QList<Ulke> FirmaStore::ulkeler() const
 
 qint32 FirmaStore::ulkeTanimla(const QString &ulke_ADI) const
 {
+    Transaction addition(*m_oturum->Veritabani); // two that add it at once add it once
     Recordset Kayit =
         m_oturum->sorgula(u"Select * From Ulkeler Where Ulke_ADI = "_s + sqlText(ulke_ADI));
     if (!Kayit.next()) {
@@ -77,5 +101,7 @@ qint32 FirmaStore::ulkeTanimla(const QString &ulke_ADI) const
         Kayit.set(u"ulke_ADI", ulke_ADI);
         Kayit.update();
     }
-    return qint32(Kayit.integer(u"ID"));
+    const auto ID = qint32(Kayit.integer(u"ID"));
+    addition.commit();
+    return ID;
 }

@@ -87,10 +87,29 @@ QStringList ModelStore::kayitlar(const QString &model, qint32 TipID) const
     return ids;
 }
 
-std::optional<qint32> ModelStore::sonKayit(const QString &model, qint32 TipID) const
+/// The weight stands on every row of a model, but is told once.
+QList<RecordRows> ModelStore::kayit(const QString &model, qint32 TipID) const
 {
-    const QStringList ids = kayitlar(model, TipID);
-    return ids.isEmpty() ? std::nullopt : std::optional(ids.last().trimmed().toInt());
+    Database &db = *m_oturum->Veritabani;
+    const QString key = keyCondition(model, TipID).mid(QStringView(u"Where ").size());
+    const auto materials = [&](const QString &kind, const QString &label, const FieldLabel &code) {
+        return RecordRows{.table = u"Model"_s,
+                          .where = key + u" and M_Kod <> 0 and M_Tip "_s + kind,
+                          .label = label,
+                          .fields = {code, {u"M_Adet"_s, u"Adet"_s}},
+                          .identity = {u"M_Kod"_s},
+                          .renumbered = {u"Model_ID"_s, u"M_Miktar"_s}};
+    };
+    return {{.table = u"Model"_s,
+             .where = u"Model_ID In (Select Max(Model_ID) From Model Where "_s + key + u')',
+             .label = u"Model "_s + model,
+             .fields = {{u"M_Miktar"_s, u"Gram"_s}},
+             .renumbered = {u"Model_ID"_s, u"M_Tip"_s, u"M_Kod"_s, u"M_Adet"_s}},
+            materials(u"= 0"_s, u"Taş"_s,
+                      {u"M_Kod"_s, u"Taş"_s, lookedUp(db, u"Tas"_s, u"TasID"_s, u"Taskodu"_s)}),
+            materials(
+                u"<> 0"_s, u"Yarı mamul"_s,
+                {u"M_Kod"_s, u"Kalıp"_s, lookedUp(db, u"Kalip"_s, u"KalipID"_s, u"KalipKodu"_s)})};
 }
 
 QList<ModelSatiri> ModelStore::ModelDoldur(const QList<ModelSatiri> &stored) const
@@ -149,14 +168,20 @@ QString ModelStore::KisaADBul(const QString &model, qint32 TipID) const
     return Kayit.next() ? Kayit.text(u"Kisaad") : QString();
 }
 
-void ModelStore::save(Model &model, bool found) const
+void ModelStore::save(Model &model, LoadedRows &okunan) const
 {
-    Transaction rewrite(*m_oturum->Veritabani);
-    const QString replaced = found ? kayitlar(model.ad, model.M_Uruntip).join(u", "_s) : QString();
-    if (found) {
-        retireLabels(*m_oturum, model.ad, model.M_Uruntip);
-        m_oturum->calistir(u"DELETE From Model "_s + keyCondition(model.ad, model.M_Uruntip));
-    }
+    // Picture and label come after the rows; should they fail, the user goes on
+    // with the model.
+    Model written = model;
+    okunan.write(*m_oturum->Veritabani, {[&] { replaceRows(written); }, {}, {u"Model"_s}});
+    model = written;
+}
+
+void ModelStore::replaceRows(Model &model) const
+{
+    const QString replaced = kayitlar(model.ad, model.M_Uruntip).join(u", "_s);
+    retireLabels(*m_oturum, model.ad, model.M_Uruntip);
+    m_oturum->calistir(u"DELETE From Model "_s + keyCondition(model.ad, model.M_Uruntip));
     Recordset rows = m_oturum->Veritabani->table(u"Model"_s);
     bool any = false;
     for (const ModelSatiri &material : std::as_const(model.satirlar)) {
@@ -172,14 +197,13 @@ void ModelStore::save(Model &model, bool found) const
     if (!replaced.isEmpty())
         m_oturum->calistir(u"UPDATE Katalog Set katno1 = "_s + sqlNumber(id) +
                            u" Where katno1 In ("_s + replaced + u')');
-    rewrite.commit();
     model.Model_ID = id;
 }
 
-void ModelStore::remove(const QString &model, qint32 TipID) const
+void ModelStore::remove(const QString &model, qint32 TipID, LoadedRows &okunan) const
 {
-    Transaction removal(*m_oturum->Veritabani);
-    retireLabels(*m_oturum, model, TipID);
-    m_oturum->calistir(u"DELETE From Model "_s + keyCondition(model, TipID));
-    removal.commit();
+    okunan.write(*m_oturum->Veritabani, [&] {
+        retireLabels(*m_oturum, model, TipID);
+        m_oturum->calistir(u"DELETE From Model "_s + keyCondition(model, TipID));
+    });
 }

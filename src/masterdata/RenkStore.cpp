@@ -10,6 +10,16 @@ static QString findSql(const QString &RenkNo)
     return u"Select * From Renkler Where Renkno ="_s + sqlText(RenkNo);
 }
 
+QList<RecordRows> RenkStore::kayit(const QString &RenkNo) const
+{
+    return {
+        {.table = u"Renkler"_s,
+         .where = u"Renkno = "_s + sqlText(RenkNo) + u" or Renkno = "_s + sqlText(RenkNo.trimmed()),
+         .label = u"Renk "_s + RenkNo.trimmed(),
+         .fields = {{u"Renksira"_s, u"Sıra no"_s}},
+         .comesBack = true}};
+}
+
 std::optional<Renk> RenkStore::Renkbul(const QString &RenkNo) const
 {
     Recordset Kayit = m_oturum->sorgula(findSql(RenkNo));
@@ -18,20 +28,24 @@ std::optional<Renk> RenkStore::Renkbul(const QString &RenkNo) const
     return Renk{Kayit.text(u"RenkNo"), Kayit.number(u"Renksira")};
 }
 
-void RenkStore::save(const Renk &renk) const
+void RenkStore::save(const Renk &renk, LoadedRows &okunan) const
 {
-    Recordset Kayit = m_oturum->sorgula(findSql(renk.RenkNo));
-    if (Kayit.next()) {
-        Kayit.edit();
-    } else {
-        Kayit.addNew();
-        Kayit.set(u"RenkNo", renk.RenkNo.trimmed());
-    }
-    Kayit.set(u"Renksira", renk.Renksira);
-    Kayit.update();
+    okunan.write(*m_oturum->Veritabani, [&] {
+        Recordset Kayit = m_oturum->sorgula(findSql(renk.RenkNo));
+        if (Kayit.next()) {
+            Kayit.edit();
+        } else {
+            Kayit.addNew();
+            Kayit.set(u"RenkNo", renk.RenkNo.trimmed());
+        }
+        Kayit.set(u"Renksira", renk.Renksira);
+        Kayit.update();
+    });
 }
 
-void RenkStore::remove(const QString &RenkNo) const
+void RenkStore::remove(const QString &RenkNo, LoadedRows &okunan) const
 {
-    m_oturum->calistir(u"DELETE From Renkler Where Renkno = "_s + sqlText(RenkNo));
+    okunan.write(*m_oturum->Veritabani, [&] {
+        m_oturum->calistir(u"DELETE From Renkler Where Renkno = "_s + sqlText(RenkNo));
+    });
 }

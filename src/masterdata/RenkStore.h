@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LoadedRows.h"
 #include "Renk.h"
 
 #include <optional>
@@ -12,11 +13,14 @@ class RenkStore
 public:
     explicit RenkStore(Oturum &oturum) : m_oturum(&oturum) {}
 
+    /// What the record is made of, for those who load and save it.
+    QList<RecordRows> kayit(const QString &RenkNo) const;
+
     std::optional<Renk> Renkbul(const QString &RenkNo) const;
     /// Writes the colour of that code, or adds it.
-    void save(const Renk &renk) const;
+    void save(const Renk &renk, LoadedRows &okunan) const;
     /// The order lines that use the colour keep its code.
-    void remove(const QString &RenkNo) const;
+    void remove(const QString &RenkNo, LoadedRows &okunan) const;
 
 private:
     Oturum *m_oturum;

@@ -5,6 +5,7 @@
 #include "NumberRange.h"
 #include "Numbers.h"
 #include "Oturum.h"
+#include "SaveOver.h"
 #include "Theme.h"
 
 #include <QComboBox>
@@ -183,6 +184,8 @@ void TanimEkrani::emptyForm()
 
 void TanimEkrani::Bul()
 {
+    // Before it is shown: what changes between the two is then asked about.
+    m_loaded = LoadedRows(*oturum().Veritabani, recordRows());
     const Found found = readRow();
     if (found != Found::Refused)
         TusAC(found);
@@ -210,10 +213,18 @@ bool TanimEkrani::mayWrite()
 
 void TanimEkrani::removeFound()
 {
-    if (!mayRemove())
-        return;
-    removeRow();
-    TusKapa();
+    if (mayRemove() && removeRow())
+        TusKapa();
+}
+
+bool TanimEkrani::store(const std::function<void(LoadedRows &)> &write)
+{
+    const SaveEnd end = saveOver(m_context.messages, this, m_loaded, write);
+    if (end == SaveEnd::Theirs)
+        Bul();
+    else if (end == SaveEnd::Gone)
+        TusKapa();
+    return end == SaveEnd::Done;
 }
 
 // Numbers and texts

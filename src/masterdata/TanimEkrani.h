@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LoadedRows.h"
 #include "Messages.h"
 #include "ScreenContext.h"
 #include "TableDef.h"
@@ -75,12 +76,19 @@ protected:
     /// Whether what is on the screen can be written: the numbers fit. If not,
     /// says so and goes there.
     virtual bool mayWrite();
-    /// Writes the row that is on the screen; false when the screen refused it
-    /// and has said why.
+    /// What the record of the key is made of in the database.
+    virtual QList<RecordRows> recordRows() const = 0;
+    /// Writes the row that is on the screen, through store(); false when the
+    /// screen refused it and has said why, or the user chose not to.
     virtual bool writeRow() = 0;
     /// Asks whether the row found shall go.
     virtual bool mayRemove() = 0;
-    virtual void removeRow() = 0;
+    /// Removes it, through store().
+    virtual bool removeRow() = 0;
+    /// Runs a save or a removal. Where another changed the record since it was
+    /// found, the user chooses: his own is written, the other's is shown, or
+    /// the screen stays as it is. Whether it was written.
+    bool store(const std::function<void(LoadedRows &)> &write);
 
     /// Whether Enter in the key has something to find: a text in the first key.
     virtual bool hasKey() const;
@@ -142,5 +150,6 @@ private:
     ScreenContext m_context;
     TableDef m_table;
     Form m_form;
+    LoadedRows m_loaded; ///< the record as it stood when it was found
     QHash<const QLineEdit *, ShownNumber> m_shown;
 };

@@ -53,10 +53,16 @@ TanimEkrani::Found Tanim_Ayar::readRow()
     return Found::Row;
 }
 
+QList<RecordRows> Tanim_Ayar::recordRows() const
+{
+    return m_store.kayit(Milyem());
+}
+
 bool Tanim_Ayar::writeRow()
 {
-    m_store.save({Milyem(), number(*m_ui->Yogunluk)});
-    return true;
+    return store([&](LoadedRows &loaded) {
+        m_store.save({Milyem(), number(*m_ui->Yogunluk)}, loaded);
+    });
 }
 
 bool Tanim_Ayar::mayRemove()
@@ -64,7 +70,7 @@ bool Tanim_Ayar::mayRemove()
     return ask(m_ui->Milyem->text() + u" TANIMI SİLİNECEK ...!"_s, {}, MessageAnswer::Yes);
 }
 
-void Tanim_Ayar::removeRow()
+bool Tanim_Ayar::removeRow()
 {
-    m_store.remove(Milyem());
+    return store([this](LoadedRows &loaded) { m_store.remove(Milyem(), loaded); });
 }

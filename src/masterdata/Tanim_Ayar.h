@@ -22,9 +22,10 @@ private:
     bool hasKey() const override;
     bool pickKey() override;
     Found readRow() override;
+    QList<RecordRows> recordRows() const override;
     bool writeRow() override;
     bool mayRemove() override;
-    void removeRow() override;
+    bool removeRow() override;
     double Milyem() const;
 
     AyarStore m_store;

@@ -80,12 +80,19 @@ void Tanim_Firma::DosyadanAta(const Firma &firma)
     }
 }
 
+QList<RecordRows> Tanim_Firma::recordRows() const
+{
+    return m_store.kayit(Firkod());
+}
+
 bool Tanim_Firma::writeRow()
 {
-    m_store.save({Firkod(), m_ui->KisaAD->text(), m_ui->FirAdi->text(), m_ui->Yetkili->text(),
-                  m_ui->Telefon->text(), m_ui->Mail->text(), m_ui->Ulke->currentData().toInt(),
-                  m_ui->txtAciklama->text()});
-    return true;
+    return store([&](LoadedRows &loaded) {
+        m_store.save({Firkod(), m_ui->KisaAD->text(), m_ui->FirAdi->text(), m_ui->Yetkili->text(),
+                      m_ui->Telefon->text(), m_ui->Mail->text(), m_ui->Ulke->currentData().toInt(),
+                      m_ui->txtAciklama->text()},
+                     loaded);
+    });
 }
 
 bool Tanim_Firma::mayRemove()
@@ -99,9 +106,9 @@ bool Tanim_Firma::mayRemove()
                MessageAnswer::Yes);
 }
 
-void Tanim_Firma::removeRow()
+bool Tanim_Firma::removeRow()
 {
-    m_store.remove(Firkod());
+    return store([this](LoadedRows &loaded) { m_store.remove(Firkod(), loaded); });
 }
 
 void Tanim_Firma::emptyForm()

@@ -63,11 +63,18 @@ void Tanim_Kalip::showWhereabouts(const QString &KalipDur)
     ComboSec(*m_ui->KalipDur, KalipDur);
 }
 
+QList<RecordRows> Tanim_Kalip::recordRows() const
+{
+    return m_store.kayit(m_ui->KalipKodu->text());
+}
+
 bool Tanim_Kalip::writeRow()
 {
     const bool chosen = m_ui->KalipDur->currentIndex() >= 0;
-    m_store.save({m_ui->KalipKodu->text(), m_ui->KalipAck->text(),
-                  chosen ? m_ui->KalipDur->currentText() : m_storedDur});
+    const Kalip kalip{m_ui->KalipKodu->text(), m_ui->KalipAck->text(),
+                      chosen ? m_ui->KalipDur->currentText() : m_storedDur};
+    if (!store([&](LoadedRows &loaded) { m_store.save(kalip, loaded); }))
+        return false;
     if (m_ui->KalipResim->holdsPicture()) {
         m_picture->ResimKaydet(
             [this] { return moldPictureTarget(oturum().ResimYolu, m_ui->KalipKodu->text()); });
@@ -81,9 +88,9 @@ bool Tanim_Kalip::mayRemove()
                MessageAnswer::No);
 }
 
-void Tanim_Kalip::removeRow()
+bool Tanim_Kalip::removeRow()
 {
-    m_store.remove(m_ui->KalipKodu->text());
+    return store([this](LoadedRows &loaded) { m_store.remove(m_ui->KalipKodu->text(), loaded); });
 }
 
 void Tanim_Kalip::emptyForm()

@@ -160,7 +160,6 @@ TanimEkrani::Found Tanim_Model::readRow()
 
 void Tanim_Model::showModel(const Model &model)
 {
-    m_stored = model.Model_ID;
     m_ui->Model->setText(model.ad);
     BarkodGoster(model.Model_ID);
     m_picture->ResimGoster(picturePath());
@@ -207,7 +206,6 @@ void Tanim_Model::tellDangling()
 void Tanim_Model::emptyForm()
 {
     TanimEkrani::emptyForm();
-    m_stored.reset();
     m_ui->pBarkod->clear();
     m_ui->pBarkod->setAutoFillBackground(false);
     m_ui->Rapor->abandonEdit();
@@ -284,26 +282,20 @@ Model Tanim_Model::collect() const
     return {m_ui->Model->text(), tip().TipID, number(*m_ui->Miktar), m_materials->satirlar(), 0};
 }
 
-/// What another program stored since the model was opened is not undone unseen.
-bool Tanim_Model::mayReplace()
+QList<RecordRows> Tanim_Model::recordRows() const
 {
-    const std::optional<qint32> now = m_store.sonKayit(m_ui->Model->text(), tip().TipID);
-    if (now != m_stored && !ask(u"BU MODEL AÇILDIKTAN SONRA BAŞKA BİR YERDE DEĞİŞTİRİLMİŞ.\n\n"
-                                "ÜZERİNE YAZILSIN MI ?"_s,
-                                {}, MessageAnswer::No))
-        return false;
-    m_stored = now;
-    return true;
+    if (m_ui->UrunTipi->currentIndex() < 0)
+        return {};
+    return m_store.kayit(m_ui->Model->text().trimmed(), tip().TipID);
 }
 
 bool Tanim_Model::writeRow()
 {
-    if (!m_ui->Rapor->finishEdit() || !mayDropDangling() || !mayReplace())
+    if (!m_ui->Rapor->finishEdit() || !mayDropDangling())
         return false;
     Model model = collect();
-    m_store.save(model, m_stored.has_value());
-    // Should the picture fail, the next save replaces these rows.
-    m_stored = model.Model_ID;
+    if (!store([&](LoadedRows &loaded) { m_store.save(model, loaded); }))
+        return false;
     BarkodGoster(model.Model_ID);
     m_opened = m_materials->satirlar();
     if (m_ui->Resim->isNew())
@@ -357,9 +349,10 @@ bool Tanim_Model::mayRemove()
                u"KAYIT SİLME"_s, MessageAnswer::No);
 }
 
-void Tanim_Model::removeRow()
+bool Tanim_Model::removeRow()
 {
-    m_store.remove(m_ui->Model->text(), tip().TipID);
+    return store(
+        [this](LoadedRows &loaded) { m_store.remove(m_ui->Model->text(), tip().TipID, loaded); });
 }
 
 void Tanim_Model::yazdir()

@@ -34,9 +34,10 @@ private:
     bool takeLabel();
     bool pickKey() override;
     Found readRow() override;
+    QList<RecordRows> recordRows() const override;
     bool writeRow() override;
     bool mayRemove() override;
-    void removeRow() override;
+    bool removeRow() override;
     bool mayLeave() override;
     void keyEntered(QWidget *key) override;
     void emptyForm() override;
@@ -54,7 +55,6 @@ private:
     void removeMaterial(int row);
     bool mayDropDangling();
 
-    bool mayReplace();
     void ResimKaydet(const Model &model);
     void etiketBas(const Model &model);
     void yazdir();
@@ -66,7 +66,6 @@ private:
     ResimAlani *m_picture = nullptr;
     QList<ModelTipi> m_types;
     EtiketAyari m_labelSettings;
-    int m_pixelsPerUnit = 2;        ///< of the symbol
-    std::optional<qint32> m_stored; ///< the last record of the model as it is stored
-    QList<ModelSatiri> m_opened;    ///< the materials as they were opened
+    int m_pixelsPerUnit = 2;     ///< of the symbol
+    QList<ModelSatiri> m_opened; ///< the materials as they were opened
 };

@@ -43,10 +43,16 @@ TanimEkrani::Found Tanim_Renk::readRow()
     return Found::Row;
 }
 
+QList<RecordRows> Tanim_Renk::recordRows() const
+{
+    return m_store.kayit(m_ui->RenkNo->text());
+}
+
 bool Tanim_Renk::writeRow()
 {
-    m_store.save({m_ui->RenkNo->text(), number(*m_ui->Renksira)});
-    return true;
+    return store([&](LoadedRows &loaded) {
+        m_store.save({m_ui->RenkNo->text(), number(*m_ui->Renksira)}, loaded);
+    });
 }
 
 bool Tanim_Renk::mayRemove()
@@ -54,7 +60,7 @@ bool Tanim_Renk::mayRemove()
     return ask(m_ui->RenkNo->text() + u" RENK TANIMI SİLİNECEK ...!"_s, {}, MessageAnswer::Yes);
 }
 
-void Tanim_Renk::removeRow()
+bool Tanim_Renk::removeRow()
 {
-    m_store.remove(m_ui->RenkNo->text());
+    return store([this](LoadedRows &loaded) { m_store.remove(m_ui->RenkNo->text(), loaded); });
 }

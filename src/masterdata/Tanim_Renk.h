@@ -21,9 +21,10 @@ public:
 private:
     bool pickKey() override;
     Found readRow() override;
+    QList<RecordRows> recordRows() const override;
     bool writeRow() override;
     bool mayRemove() override;
-    void removeRow() override;
+    bool removeRow() override;
 
     RenkStore m_store;
     std::unique_ptr<Ui::Tanim_Renk> m_ui;

@@ -54,11 +54,18 @@ void Tanim_Tas::showCurrency(const QString &TasBirimi)
     }
 }
 
+QList<RecordRows> Tanim_Tas::recordRows() const
+{
+    return m_store.kayit(m_ui->Taskodu->text());
+}
+
 bool Tanim_Tas::writeRow()
 {
-    m_store.save({m_ui->Taskodu->text(), number(*m_ui->TasFiyati), m_ui->TasBirimi->currentText(),
-                  number(*m_ui->TasKatsayi)});
-    return true;
+    return store([&](LoadedRows &loaded) {
+        m_store.save({m_ui->Taskodu->text(), number(*m_ui->TasFiyati),
+                      m_ui->TasBirimi->currentText(), number(*m_ui->TasKatsayi)},
+                     loaded);
+    });
 }
 
 bool Tanim_Tas::mayRemove()
@@ -66,9 +73,9 @@ bool Tanim_Tas::mayRemove()
     return ask(m_ui->Taskodu->text() + u" SİLİNECEK. ONAYLIYORMUSUNUZ.?"_s, {}, MessageAnswer::No);
 }
 
-void Tanim_Tas::removeRow()
+bool Tanim_Tas::removeRow()
 {
-    m_store.remove(m_ui->Taskodu->text());
+    return store([this](LoadedRows &loaded) { m_store.remove(m_ui->Taskodu->text(), loaded); });
 }
 
 void Tanim_Tas::emptyForm()

@@ -21,9 +21,10 @@ public:
 private:
     bool pickKey() override;
     Found readRow() override;
+    QList<RecordRows> recordRows() const override;
     bool writeRow() override;
     bool mayRemove() override;
-    void removeRow() override;
+    bool removeRow() override;
     void emptyForm() override;
     void showCurrency(const QString &TasBirimi);
 

@@ -70,10 +70,17 @@ bool Tanim_Uruntipi::mayWrite()
     return TanimEkrani::mayWrite();
 }
 
+QList<RecordRows> Tanim_Uruntipi::recordRows() const
+{
+    return m_store.kayit(TipID());
+}
+
 bool Tanim_Uruntipi::writeRow()
 {
-    m_store.save({TipID(), m_ui->UrunTipi->text(), m_ui->KisaAD->text(), number(*m_ui->Sirano)});
-    return true;
+    return store([&](LoadedRows &loaded) {
+        m_store.save({TipID(), m_ui->UrunTipi->text(), m_ui->KisaAD->text(), number(*m_ui->Sirano)},
+                     loaded);
+    });
 }
 
 bool Tanim_Uruntipi::mayRemove()
@@ -81,7 +88,7 @@ bool Tanim_Uruntipi::mayRemove()
     return ask(m_ui->TipID->text() + u" SİLİNECEK. ONAYLIYORMUSUNUZ.?"_s, {}, MessageAnswer::No);
 }
 
-void Tanim_Uruntipi::removeRow()
+bool Tanim_Uruntipi::removeRow()
 {
-    m_store.remove(TipID());
+    return store([this](LoadedRows &loaded) { m_store.remove(TipID(), loaded); });
 }

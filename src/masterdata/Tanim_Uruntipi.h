@@ -23,9 +23,10 @@ private:
     bool pickKey() override;
     Found readRow() override;
     bool mayWrite() override;
+    QList<RecordRows> recordRows() const override;
     bool writeRow() override;
     bool mayRemove() override;
-    void removeRow() override;
+    bool removeRow() override;
     double TipID() const;
 
     UrunTipiStore m_store;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LoadedRows.h"
 #include "UrunTipiKaydi.h"
 
 #include <optional>
@@ -12,12 +13,15 @@ class UrunTipiStore
 public:
     explicit UrunTipiStore(Oturum &oturum) : m_oturum(&oturum) {}
 
+    /// What the record is made of, for those who load and save it.
+    QList<RecordRows> kayit(double TipID) const;
+
     std::optional<UrunTipiKaydi> UrunTipiBul(double TipID) const;
     /// Writes the type of that number, which must be there, or adds a new one,
     /// dated with the working date.
-    void save(const UrunTipiKaydi &tip) const;
+    void save(const UrunTipiKaydi &tip, LoadedRows &okunan) const;
     /// The models and orders of the type keep its number.
-    void remove(double TipID) const;
+    void remove(double TipID, LoadedRows &okunan) const;
 
 private:
     Oturum *m_oturum;

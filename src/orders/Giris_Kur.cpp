@@ -5,6 +5,7 @@
 #include "Guarded.h"
 #include "KurModel.h"
 #include "Oturum.h"
+#include "SaveOver.h"
 #include "Theme.h"
 #include "ui_Giris_Kur.h"
 #include "WindowSize.h"
@@ -165,6 +166,7 @@ void Giris_Kur::dateEntered()
 void Giris_Kur::KurGoster()
 {
     const QDate date = m_ui->Tarih->date();
+    m_loaded = m_store.oku(date);
     QList<KurSatiri> rows = m_store.kurlar(date);
     const bool hasOwn = !rows.isEmpty();
     const QString note = noteOn(date, hasOwn);
@@ -208,8 +210,18 @@ void Giris_Kur::pickDate()
 void Giris_Kur::save()
 {
     m_ui->KurGrid->finishEdit();
-    m_store.save(m_date, m_model->satirlar(), m_model->alisKurlari());
-    enterDate();
+    store([this](LoadedRows &loaded) {
+        m_store.save(m_date, m_model->satirlar(), m_model->alisKurlari(), loaded);
+    });
+}
+
+void Giris_Kur::store(const std::function<void(LoadedRows &)> &write)
+{
+    const SaveEnd end = saveOver(m_context.messages, this, m_loaded, write);
+    if (end == SaveEnd::Theirs || end == SaveEnd::Gone)
+        KurGoster();
+    else if (end == SaveEnd::Done)
+        enterDate();
 }
 
 void Giris_Kur::remove()
@@ -218,8 +230,7 @@ void Giris_Kur::remove()
             this, formatDate(m_date) + u" TARIHLI KURLAR SILINECEK, ONAYLIYORMUSUNUZ."_s,
             MessageIcon::Critical, {}, MessageAnswer::No))
         return;
-    m_store.remove(m_date);
-    enterDate();
+    store([this](LoadedRows &loaded) { m_store.remove(m_date, loaded); });
 }
 
 void Giris_Kur::keepBuyingRates(bool on)

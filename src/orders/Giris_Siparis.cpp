@@ -212,6 +212,7 @@ void Giris_Siparis::setEditing(bool on)
 void Giris_Siparis::TusKapa()
 {
     m_stored = 0;
+    m_loaded = {};
     m_customer = {};
     m_keptLines.clear();
     m_notice.clear();

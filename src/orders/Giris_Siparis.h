@@ -95,6 +95,7 @@ private:
     void showNumber(const Siparis &siparis);
     void save();
     void saveAsNew();
+    void takeStored();
     void removeOrder();
     void afterSave(const Siparis &siparis);
 
@@ -121,5 +122,6 @@ private:
     qint32 m_stored = 0;         ///< the stored order that the screen holds; 0: none
     Siparis m_opened;            ///< the screen as it was opened
     QString m_notice;            ///< stands while the order does, where nothing else warns
+    LoadedRows m_loaded;         ///< the order as it stood when it was opened
     QList<KeptLine> m_keptLines; ///< of the order, without those of its rows
 };

@@ -35,8 +35,11 @@ void Giris_Siparis::SiparisBul(double number)
     const bool possible =
         number >= 1 && number <= std::numeric_limits<qint32>::max() && std::floor(number) == number;
     std::optional<Siparis> found;
-    if (possible)
+    m_loaded = {};
+    if (possible) {
+        m_loaded = m_store.oku(qint32(number));
         found = m_store.SiparisBul(qint32(number));
+    }
     m_notice = found || number == 0 ? QString() : whyNotSaved(number);
     if (found)
         SiparisDoldur(*found);

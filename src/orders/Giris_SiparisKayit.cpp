@@ -4,6 +4,7 @@
 #include "Guarded.h"
 #include "Numbers.h"
 #include "Oturum.h"
+#include "SaveOver.h"
 #include "SiparisModel.h"
 #include "ui_Giris_Siparis.h"
 
@@ -90,19 +91,33 @@ void Giris_Siparis::save()
     Siparis siparis = collect();
     if (!check(siparis) || !holdsOwnNumber())
         return;
+    bool stands = true;
+    SaveEnd end = SaveEnd::Back;
     try {
-        if (!m_store.save(siparis)) {
-            m_context.messages.say(this, u"SİPARİŞ BAŞLIK KAYDINA ULAŞILAMIYOR..."_s,
-                                   MessageIcon::Critical, u"HATA"_s);
-            return;
-        }
+        end = saveOver(m_context.messages, this, m_loaded,
+                       [&](LoadedRows &loaded) { stands = m_store.save(siparis, loaded); });
     } catch (...) {
         // The header may be on disk already; the next save goes on from there.
         showNumber(siparis);
         throw;
     }
     showNumber(siparis);
-    afterSave(siparis);
+    if (!stands)
+        m_context.messages.say(this, u"SİPARİŞ BAŞLIK KAYDINA ULAŞILAMIYOR..."_s,
+                               MessageIcon::Critical, u"HATA"_s);
+    else if (end == SaveEnd::Done)
+        afterSave(siparis);
+    else if (end != SaveEnd::Back)
+        takeStored();
+}
+
+/// What is typed gives way to the order as another stored it.
+void Giris_Siparis::takeStored()
+{
+    const qint32 number = m_stored;
+    TusKapa();
+    m_ui->Sipnum->setText(QString::number(number));
+    SiparisBul(number);
 }
 
 void Giris_Siparis::saveAsNew()
@@ -121,12 +136,15 @@ void Giris_Siparis::saveAsNew()
                                u"HATA"_s);
         return;
     }
+    LoadedRows copy;
     try {
-        m_store.saveAsNew(siparis, date);
+        m_store.saveAsNew(siparis, date, copy);
     } catch (...) {
         // With its header on disk, the copy is what the next save completes.
-        if (siparis.Sipnum != 0)
+        if (siparis.Sipnum != 0) {
             SiparisDoldur(siparis);
+            m_loaded = copy;
+        }
         throw;
     }
     showNumber(siparis);
@@ -148,6 +166,10 @@ void Giris_Siparis::removeOrder()
     if (!m_context.messages.ask(this, m_ui->Sipnum->text() + u" NOLU SİPARİŞ SİLİNECEK."_s,
                                 MessageIcon::Exclamation, {}, MessageAnswer::No))
         return;
-    m_store.remove(m_stored);
-    TusKapa();
+    const SaveEnd end = saveOver(m_context.messages, this, m_loaded,
+                                 [&](LoadedRows &loaded) { m_store.remove(m_stored, loaded); });
+    if (end == SaveEnd::Done || end == SaveEnd::Gone)
+        TusKapa();
+    else if (end == SaveEnd::Theirs)
+        takeStored();
 }

@@ -96,14 +96,31 @@ QDate KurStore::carriedFrom(QDate Tarih) const
     return origin;
 }
 
-void KurStore::save(QDate Tarih, const QList<KurSatiri> &satirlar, AlisKurlari alis) const
+LoadedRows KurStore::oku(QDate Tarih) const
+{
+    return {*m_oturum->Veritabani,
+            {{.table = u"DovizD"_s,
+              .where = u"Tarih = "_s + sqlDate(Tarih),
+              .label = u"Kur"_s,
+              .fields = {{u"Dovcinsi"_s, u"Döv.Cinsi"_s},
+                         {u"Kur"_s, u"Satış Kuru"_s},
+                         {u"aliskur"_s, u"Alış Kuru"_s}},
+              .identity = {u"Dovcinsi"_s}}}};
+}
+
+void KurStore::save(QDate Tarih, const QList<KurSatiri> &satirlar, AlisKurlari alis,
+                    LoadedRows &okunan) const
+{
+    okunan.write(*m_oturum->Veritabani, [&] { replaceRates(Tarih, satirlar, alis); });
+}
+
+void KurStore::replaceRates(QDate Tarih, const QList<KurSatiri> &satirlar, AlisKurlari alis) const
 {
     const QString home = currencyKey(homeCurrency());
     QSet<QString> replaced;
     for (const KurSatiri &row : satirlar)
         replaced.insert(currencyKey(row.Dovcinsi));
 
-    Transaction transaction(*m_oturum->Veritabani);
     Recordset Kayit = m_oturum->sorgula(ratesOf(Tarih));
     while (Kayit.next()) {
         if (replaced.contains(currencyKey(Kayit.text(u"Dovcinsi"))))
@@ -122,16 +139,15 @@ void KurStore::save(QDate Tarih, const QList<KurSatiri> &satirlar, AlisKurlari a
             Kayit.set(u"aliskur", row.aliskur.value_or(empty));
         Kayit.update();
     }
-    transaction.commit();
 }
 
-void KurStore::remove(QDate Tarih) const
+void KurStore::remove(QDate Tarih, LoadedRows &okunan) const
 {
-    Transaction transaction(*m_oturum->Veritabani);
-    Recordset Kayit = m_oturum->sorgula(ratesOf(Tarih));
-    while (Kayit.next())
-        Kayit.remove();
-    transaction.commit();
+    okunan.write(*m_oturum->Veritabani, [&] {
+        Recordset Kayit = m_oturum->sorgula(ratesOf(Tarih));
+        while (Kayit.next())
+            Kayit.remove();
+    });
 }
 
 QString KurStore::homeCurrency() const

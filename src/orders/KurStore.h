@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Kur.h"
+#include "LoadedRows.h"
 
 #include <QDate>
 #include <QList>
@@ -27,15 +28,21 @@ public:
     /// when all of them are the same as on the date with rates before.
     QDate carriedFrom(QDate Tarih) const;
 
+    /// The date's rates as they stand: to be taken before they are shown, for
+    /// the save that may follow.
+    LoadedRows oku(QDate Tarih) const;
+
     /// Replaces the date's rates in one transaction. A rate that is left empty
     /// is stored as 0, the home currency's as 1; buying rates that are not kept
     /// stay empty. Rates of currencies that are not defined, and so not among
     /// the rows, stay as they are.
-    void save(QDate Tarih, const QList<KurSatiri> &satirlar, AlisKurlari alis) const;
+    void save(QDate Tarih, const QList<KurSatiri> &satirlar, AlisKurlari alis,
+              LoadedRows &okunan) const;
     /// Removes all rates of the date.
-    void remove(QDate Tarih) const;
+    void remove(QDate Tarih, LoadedRows &okunan) const;
 
 private:
+    void replaceRates(QDate Tarih, const QList<KurSatiri> &satirlar, AlisKurlari alis) const;
     QString homeCurrency() const;
 
     Oturum *m_oturum;

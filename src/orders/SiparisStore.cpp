@@ -87,14 +87,36 @@ void addLines(Oturum &oturum, const Siparis &siparis, RowNumbers rowNumbers)
     }
 }
 
-/// Removes the lines that the screen shows, and so is about to write again.
-QString deleteLinesSql(const Siparis &siparis)
+/// The numbers of the lines without a cell, which a save leaves as they are.
+QList<qint32> keptNumbers(const Siparis &siparis)
 {
-    QStringList kept;
+    QList<qint32> kept;
     for (const KeptLine &line : siparis.allKeptLines())
-        kept.append(QString::number(line.Dotosayi));
-    const QString all = u"DELETE From SiparisD Where SipnumD = "_s + sqlNumber(siparis.Sipnum);
-    return kept.isEmpty() ? all : all + u" and Dotosayi Not In("_s + kept.join(u',') + u')';
+        kept.append(line.Dotosayi);
+    return kept;
+}
+
+QString deleteLinesSql(qint32 Sipnum, const QList<qint32> &kept)
+{
+    QStringList numbers;
+    for (const qint32 Dotosayi : kept)
+        numbers.append(QString::number(Dotosayi));
+    const QString all = u"DELETE From SiparisD Where SipnumD = "_s + sqlNumber(Sipnum);
+    return kept.isEmpty() ? all : all + u" and Dotosayi Not In("_s + numbers.join(u',') + u')';
+}
+
+RecordRows headerRows(Database &db, qint32 Sipnum)
+{
+    return {.table = u"SiparisB"_s,
+            .where = u"Sipnum = "_s + sqlNumber(Sipnum),
+            .label = u"Sipariş %1"_s.arg(Sipnum),
+            .fields = {
+                {u"SipTrh"_s, u"Sipariş tarihi"_s},
+                {u"TesTrh"_s, u"Teslim tarihi"_s},
+                {u"SipFirkod"_s, u"Müşteri"_s, lookedUp(db, u"Firma"_s, u"Firkod"_s, u"FirAdi"_s)},
+                {u"Ayar"_s, u"Ayar"_s},
+                {u"Patent"_s, u"Damga"_s},
+                {u"Aciklama"_s, u"Açıklama"_s}}};
 }
 
 } // namespace
@@ -108,6 +130,31 @@ QList<UrunTipi> SiparisStore::productTypes() const
             {qint32(Kayit.integer(u"TipID")), Kayit.text(u"UrunTipi"), Kayit.text(u"KisaAD")});
     }
     return types;
+}
+
+RecordRows orderLineRows(Database &db, qint32 Sipnum)
+{
+    const auto date = [](const QVariant &value) {
+        return value.toDateTime().date() == noDate() ? QString()
+                                                     : formatDateTime(value.toDateTime());
+    };
+    return {.table = u"SiparisD"_s,
+            .where = u"SipnumD = "_s + sqlNumber(Sipnum),
+            .label = u"Satır"_s,
+            .fields = {{u"SipModel"_s, u"Model"_s},
+                       {u"Siprenk"_s, u"Renk"_s},
+                       {u"SipUruntip"_s, u"Tip"_s,
+                        lookedUp(db, u"UrunTipi"_s, u"TipID"_s, u"KisaAD"_s)},
+                       {u"SipAdet"_s, u"Adet"_s},
+                       {u"SipAck"_s, u"Açıklama"_s},
+                       {u"Drm1"_s, u"Sipariş durumu"_s},
+                       {u"Drm2"_s, u"Üretim durumu"_s},
+                       {u"Trhbas"_s, u"Başlama tarihi"_s, date},
+                       {u"Trhbit"_s, u"Bitiş tarihi"_s, date},
+                       {u"SipSatir"_s, u"Sıra"_s}},
+            .identity = {u"SipModel"_s, u"Siprenk"_s, u"SipUruntip"_s, u"SipAck"_s},
+            .renumbered = {u"Dotosayi"_s},
+            .quiet = {u"SipSatir"_s}};
 }
 
 std::optional<Siparis> SiparisStore::baslikBul(qint32 Sipnum) const
@@ -198,51 +245,82 @@ std::optional<qint32> SiparisStore::headerCustomer(double Sipnum) const
     return qint32(Kayit.integer(u"SipFirkod"));
 }
 
-bool SiparisStore::save(Siparis &siparis) const
+LoadedRows SiparisStore::oku(qint32 Sipnum) const
 {
-    if (siparis.Sipnum != 0) {
-        Recordset header = m_oturum->sorgula(u"Select * From SiparisB Where Sipnum = "_s +
-                                             sqlNumber(siparis.Sipnum));
-        if (!header.next())
-            return false;
-        header.edit();
-        setHeader(header, siparis);
-        header.update();
-    } else {
-        addHeader(siparis);
-    }
+    Database &db = *m_oturum->Veritabani;
+    return {db, {headerRows(db, Sipnum), orderLineRows(db, Sipnum)}};
+}
 
-    Transaction lines(*m_oturum->Veritabani);
-    m_oturum->calistir(deleteLinesSql(siparis));
-    addLines(*m_oturum, siparis, RowNumbers::Written);
-    lines.commit();
+bool SiparisStore::save(Siparis &siparis, LoadedRows &okunan) const
+{
+    if (siparis.Sipnum == 0)
+        addHeader(siparis, okunan);
+    else if (!writeHeader(siparis, okunan))
+        return false;
+    okunan.write(*m_oturum->Veritabani, [&] { replaceLines(siparis, okunan); });
     return true;
 }
 
-void SiparisStore::saveAsNew(Siparis &siparis, QDate SipTrh) const
+void SiparisStore::saveAsNew(Siparis &siparis, QDate SipTrh, LoadedRows &okunan) const
 {
     siparis.becomeCopy();
     siparis.SipTrh = SipTrh;
-    addHeader(siparis);
-    Transaction lines(*m_oturum->Veritabani);
-    addLines(*m_oturum, siparis, RowNumbers::Left);
-    lines.commit();
+    addHeader(siparis, okunan);
+    okunan.write(*m_oturum->Veritabani, [&] { addLines(*m_oturum, siparis, RowNumbers::Left); });
 }
 
-void SiparisStore::remove(qint32 Sipnum) const
+void SiparisStore::remove(qint32 Sipnum, LoadedRows &okunan) const
 {
-    Transaction removal(*m_oturum->Veritabani);
-    m_oturum->calistir(u"DELETE From SiparisB Where Sipnum = "_s + sqlNumber(Sipnum));
-    m_oturum->calistir(u"DELETE From SiparisD Where SipnumD = "_s + sqlNumber(Sipnum));
-    removal.commit();
+    okunan.write(*m_oturum->Veritabani, [&] {
+        m_oturum->calistir(u"DELETE From SiparisB Where Sipnum = "_s + sqlNumber(Sipnum));
+        m_oturum->calistir(u"DELETE From SiparisD Where SipnumD = "_s + sqlNumber(Sipnum));
+    });
 }
 
-void SiparisStore::addHeader(Siparis &siparis) const
+/// The lines are looked at already here, so that no header is changed for
+/// lines that then are not.
+bool SiparisStore::writeHeader(const Siparis &siparis, LoadedRows &okunan) const
 {
+    bool stands = false;
+    const auto write = [&] {
+        Recordset header = m_oturum->sorgula(u"Select * From SiparisB Where Sipnum = "_s +
+                                             sqlNumber(siparis.Sipnum));
+        stands = header.next();
+        if (!stands)
+            return;
+        header.edit();
+        setHeader(header, siparis);
+        header.update();
+    };
+    const auto rest = [&] {
+        if (stands)
+            replaceLines(siparis, okunan);
+    };
+    okunan.write(*m_oturum->Veritabani, {write, rest, {u"SiparisB"_s}});
+    return stands;
+}
+
+void SiparisStore::addHeader(Siparis &siparis, LoadedRows &okunan) const
+{
+    Transaction addition(*m_oturum->Veritabani);
     Recordset headers = m_oturum->Veritabani->table(u"SiparisB"_s);
     headers.addNew();
     headers.set(u"SipTrh", siparis.SipTrh);
     setHeader(headers, siparis);
     headers.update();
-    siparis.Sipnum = qint32(headers.integer(u"Sipnum"));
+    const auto Sipnum = qint32(headers.integer(u"Sipnum"));
+    const LoadedRows added = oku(Sipnum);
+    addition.commit();
+    siparis.Sipnum = Sipnum;
+    okunan = added;
+}
+
+/// Those that another gave a new number meanwhile come back under the one that
+/// the screen knows.
+void SiparisStore::replaceLines(const Siparis &siparis, const LoadedRows &okunan) const
+{
+    const QList<qint32> kept = keptNumbers(siparis);
+    okunan.bringBack(*m_oturum->Veritabani, u"SiparisD"_s, u"Dotosayi"_s, kept);
+    m_oturum->calistir(deleteLinesSql(siparis.Sipnum, kept));
+    addLines(*m_oturum, siparis, RowNumbers::Written);
 }

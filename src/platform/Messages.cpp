@@ -1,5 +1,6 @@
 #include "Messages.h"
 
+#include "ChangeBox.h"
 #include "EntryControls.h"
 
 #include <algorithm>
@@ -162,4 +163,11 @@ std::optional<QString> MessageBoxes::input(QWidget *parent, const QString &promp
     if (dialog.exec() != QDialog::Accepted)
         return std::nullopt;
     return dialog.textValue();
+}
+
+ChangeAnswer MessageBoxes::choose(QWidget *parent, const ChangedMeanwhile &changed)
+{
+    ChangeBox box(changed, parent);
+    box.exec();
+    return box.answer();
 }

@@ -3,11 +3,15 @@
 #include <optional>
 #include <QString>
 
+class ChangedMeanwhile;
 class QWidget;
 
 enum class MessageIcon { None, Information, Exclamation, Critical };
 enum class MessageButtons { Ok, YesNo };
 enum class MessageAnswer { Ok, Yes, No };
+/// Whose record stays, where two changed it: this screen's, the other's, or
+/// neither yet.
+enum class ChangeAnswer { Back, Mine, Theirs };
 
 struct Message
 {
@@ -31,6 +35,9 @@ public:
     /// Asks for a line of text; nothing when the box was left without an answer.
     virtual std::optional<QString> input(QWidget *parent, const QString &prompt,
                                          const QString &title, const QString &preset) = 0;
+    /// Shows in what a record that is to be saved differs from the one that
+    /// another stored meanwhile. Closing the box is Back.
+    virtual ChangeAnswer choose(QWidget *parent, const ChangedMeanwhile &changed) = 0;
 
     void say(QWidget *parent, const QString &text, MessageIcon icon = MessageIcon::None,
              const QString &title = {})
@@ -53,4 +60,5 @@ public:
     MessageAnswer show(QWidget *parent, const Message &message) override;
     std::optional<QString> input(QWidget *parent, const QString &prompt, const QString &title,
                                  const QString &preset) override;
+    ChangeAnswer choose(QWidget *parent, const ChangedMeanwhile &changed) override;
 };

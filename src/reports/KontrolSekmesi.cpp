@@ -6,6 +6,7 @@
 #include "Numbers.h"
 #include "OrderCode.h"
 #include "Oturum.h"
+#include "SaveOver.h"
 #include "ScannedNumber.h"
 #include "StoppableWork.h"
 #include "TakipModel.h"
@@ -18,6 +19,19 @@
 #include <QKeyEvent>
 
 using namespace Qt::StringLiterals;
+
+/// The first of the lines, for a text.
+template <typename Line>
+static QString lineNames(const QList<Line> &lines)
+{
+    constexpr qsizetype mostNamed = 5;
+    QStringList names;
+    for (const Line &line : lines.first(std::min(mostNamed, lines.size())))
+        names.append(u"%1 %2, %3 adet"_s.arg(line.model, line.renk, QString::number(line.adet)));
+    if (lines.size() > mostNamed)
+        names.append(u"..."_s);
+    return names.join(u"; "_s);
+}
 
 KontrolSekmesi::KontrolSekmesi(const ScreenContext &context, QWidget *parent)
     : QWidget(parent),
@@ -155,8 +169,10 @@ void KontrolSekmesi::SiparisBul(double number)
     const bool possible =
         number >= 1 && number <= std::numeric_limits<qint32>::max() && std::floor(number) == number;
     std::optional<TakipSiparisi> found;
-    if (possible)
+    if (possible) {
+        m_loaded = m_takip.oku(qint32(number));
         found = m_takip.SiparisBul(qint32(number));
+    }
     if (found) {
         SiparisDoldur(*found);
         return;
@@ -193,15 +209,9 @@ void KontrolSekmesi::SiparisDoldur(const TakipSiparisi &siparis)
 /// Tells of the order's lines that the query of the grid does not bring.
 void KontrolSekmesi::tellHiddenLines(const QList<KeptLine> &lines)
 {
-    constexpr qsizetype mostNamed = 5;
-    QStringList names;
-    for (const KeptLine &line : lines.first(std::min(mostNamed, lines.size())))
-        names.append(u"%1 %2, %3 adet"_s.arg(line.model, line.renk, QString::number(line.adet)));
-    if (lines.size() > mostNamed)
-        names.append(u"..."_s);
     m_ui->gizliNotu->setText(
         u"Rengi ya da ürün tipi tanımlı olmayan %1 satır gösterilemiyor (%2). "
-        "Kaydederken olduğu gibi kalır."_s.arg(QString::number(lines.size()), names.join(u"; "_s)));
+        "Kaydederken olduğu gibi kalır."_s.arg(QString::number(lines.size()), lineNames(lines)));
     m_ui->gizliNotu->setVisible(!lines.isEmpty());
 }
 
@@ -233,14 +243,38 @@ void KontrolSekmesi::save()
         failed = true;
         m_context.messages.say(this, text, MessageIcon::Exclamation);
     };
-    bool ended = false;
-    {
+    TakipSonucu sonuc;
+    const SaveEnd end = saveOver(m_context.messages, this, m_loaded, [&](LoadedRows &loaded) {
         StoppableWork work(this, u"SIPARIS KONTROL"_s, u"Satırlar kaydediliyor..."_s);
-        ended = m_takip.kaydet(m_Sipnum, m_model->satirlar(), tell, work.progress());
-    }
-    // What was not written, since it failed or the user stopped, stands only here.
-    if (ended && !failed)
+        sonuc = m_takip.kaydet({m_Sipnum, m_model->opened(), m_model->satirlar()}, loaded, tell,
+                               work.progress());
+    });
+    if (end == SaveEnd::Theirs || end == SaveEnd::Gone) {
+        const qint32 number = m_Sipnum;
         clearTab();
+        m_ui->Sipnum->setText(QString::number(number));
+        SiparisBul(number);
+        return;
+    }
+    tellMissing(sonuc.kayip);
+    // What was not written, since it failed or the user stopped, stands only here.
+    if (end == SaveEnd::Done && sonuc.ended && sonuc.kayip.isEmpty() && !failed)
+        clearTab();
+}
+
+/// Tells of lines that another save of the order took away or changed so that
+/// they are not known again.
+void KontrolSekmesi::tellMissing(const QList<TakipSatiri> &lines)
+{
+    if (lines.isEmpty())
+        return;
+    m_context.messages.say(
+        this,
+        u"Sipariş bu arada başka bir yerde değiştirilmiş; şu satırlar artık bulunamıyor ya da "
+        "birbirinden ayırt edilemiyor, değişiklikleri kaydedilemedi:\n\n%1\n\nYazdıklarınız "
+        "ekranda duruyor. Siparişin şimdiki hali için vazgeçip siparişi yeniden açın."_s.arg(
+            lineNames(lines)),
+        MessageIcon::Exclamation);
 }
 
 /// cmdVazgec1: back to the order number, with everything emptied.

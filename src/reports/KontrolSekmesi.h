@@ -45,12 +45,14 @@ private:
     void showModel();
     void escape();
     void save();
+    void tellMissing(const QList<TakipSatiri> &lines);
     void clearTab();
 
     ScreenContext m_context;
     SiparisTakip m_takip;
     std::unique_ptr<Ui::KontrolSekmesi> m_ui;
     TakipModel *m_model;
+    LoadedRows m_loaded; ///< its lines as they stood when it was opened
     qint32 m_Sipnum = 0; ///< the order on the tab; 0: none
     QTimer m_modelTimer; ///< a held arrow key passes lines without showing each
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LoadedRows.h"
 #include "Siparis.h"
 
 #include <functional>
@@ -17,6 +18,8 @@ struct TakipSatiri
     qint32 adet = 0;
     QString aciklama;
     ProductionState state; ///< invalid dates: no date
+    qint32 tip = 0;        ///< its product type
+    QString SipSatir = {}; ///< its row in the order, as text: empty for a line that has none
     friend bool operator==(const TakipSatiri &, const TakipSatiri &) = default;
 };
 
@@ -26,6 +29,22 @@ struct TakipSiparisi
     Siparis baslik; ///< its header; the lines of an order entry stay out of it
     QList<TakipSatiri> satirlar;
     QList<KeptLine> gizliSatirlar; ///< whose colour or product type is not defined
+};
+
+/// What the tab has of an order: its lines as they were opened and as they are
+/// to be written.
+struct TakipKaydi
+{
+    qint32 Sipnum = 0;
+    QList<TakipSatiri> opened;
+    QList<TakipSatiri> satirlar;
+};
+
+/// What became of a save of order control.
+struct TakipSonucu
+{
+    bool ended = true;        ///< false when it was stopped
+    QList<TakipSatiri> kayip; ///< lines to be written that stand nowhere any more
 };
 
 /// Opens orders for production tracking and writes what is set there. All but
@@ -46,15 +65,24 @@ public:
     using SaveError = std::function<void(const QString &text)>;
     /// Told how many lines of how many are done; false stops.
     using SaveProgress = std::function<bool(int done, int total)>;
-    /// Writes statuses and dates line by line, each on its own: one that fails
-    /// does not stop the others, one that is gone is passed over, and one that
-    /// already says so is not touched. False when it was stopped.
-    bool kaydet(qint32 Sipnum, const QList<TakipSatiri> &satirlar, const SaveError &onError,
-                const SaveProgress &progress) const;
+    /// The lines as they stand: to be taken before they are shown, for the save
+    /// that may follow.
+    LoadedRows oku(qint32 Sipnum) const;
+    /// Writes the statuses and dates that were set, line by line, each on its
+    /// own: one that fails does not stop the others. A line that an order entry
+    /// wrote anew meanwhile is found again where no other could be meant.
+    /// Throws ChangedMeanwhile where another set a status or date of a line, as
+    /// a rule before anything is written.
+    TakipSonucu kaydet(const TakipKaydi &kayit, LoadedRows &okunan, const SaveError &onError,
+                       const SaveProgress &progress) const;
 
 private:
     QList<TakipSatiri> readLines(qint32 Sipnum) const;
-    void writeLine(qint32 Sipnum, const TakipSatiri &satir) const;
+    qint32 numberOf(const TakipKaydi &kayit, const TakipSatiri &satir) const;
+    qint32 findAgain(const TakipKaydi &kayit, const TakipSatiri &satir) const;
+    bool writeLine(const TakipKaydi &kayit, const TakipSatiri &satir,
+                   const LoadedRows &okunan) const;
+    bool setState(qint32 Dotosayi, const ProductionState &state) const;
 
     Oturum *m_oturum;
 };

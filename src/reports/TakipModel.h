@@ -17,6 +17,7 @@ public:
 
     void fill(const QList<TakipSatiri> &satirlar);
     const QList<TakipSatiri> &satirlar() const { return m_rows; }
+    const QList<TakipSatiri> &opened() const { return m_opened; }
     /// Whether anything differs from what fill() brought.
     bool isChanged() const;
 

@@ -36,7 +36,6 @@ std::optional<Sirket> RegistryStore::find(qint32 Srkkod)
 
 void RegistryStore::savePaths(const Sirket &sirket)
 {
-    Transaction transaction(m_registry);
     Recordset row = m_registry.table(u"SirketKayit"_s);
     if (!row.seek({sirket.Srkkod}))
         throw DatabaseError(u"ŞİRKET KAYITLI DEĞİL..."_s);
@@ -45,5 +44,4 @@ void RegistryStore::savePaths(const Sirket &sirket)
     row.set(u"ResimYolu", sirket.ResimYolu);
     row.set(u"Transferyolu", sirket.Transferyolu);
     row.update();
-    transaction.commit();
 }

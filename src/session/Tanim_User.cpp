@@ -186,6 +186,11 @@ bool Tanim_User::mayBeWritten(const QString &password, const QList<qint32> &righ
     return false;
 }
 
+QList<RecordRows> Tanim_User::recordRows() const
+{
+    return UsersStore(oturum()).kayit(m_ui->User_Adi->text().trimmed());
+}
+
 bool Tanim_User::writeRow()
 {
     const Entry typed = entry();
@@ -194,7 +199,8 @@ bool Tanim_User::writeRow()
     Kullanici user = m_user;
     user.user_pass = Sifrele(typed.password);
     user.user_yetki1 = typed.user_yetki1;
-    m_store.save(user, typed.rights);
+    if (!store([&](LoadedRows &loaded) { m_store.save(user, typed.rights, loaded); }))
+        return false;
     m_done = user.User_Name + u" kaydedildi. Yetkiler bir sonraki girişinde geçerli olur."_s;
     return true;
 }
@@ -210,8 +216,10 @@ bool Tanim_User::mayRemove()
     return false;
 }
 
-void Tanim_User::removeRow()
+bool Tanim_User::removeRow()
 {
-    m_store.remove(m_user.User_ID);
+    if (!store([this](LoadedRows &loaded) { m_store.remove(m_user.User_ID, loaded); }))
+        return false;
     m_done = m_user.User_Name + u" silindi."_s;
+    return true;
 }

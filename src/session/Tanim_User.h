@@ -27,9 +27,10 @@ private:
     void setUpControls();
     bool pickKey() override;
     Found readRow() override;
+    QList<RecordRows> recordRows() const override;
     bool writeRow() override;
     bool mayRemove() override;
-    void removeRow() override;
+    bool removeRow() override;
     bool mayLeave() override;
     void emptyForm() override;
 

@@ -55,12 +55,39 @@ static QString userSql(const QString &number)
     return u"Select * From Users Where User_Id = "_s + number;
 }
 
+static QString keyCondition(const QString &key)
+{
+    return isNumeric(key) ? u"User_Id = "_s + sqlNumber(leadingNumber(key))
+                          : u"User_name = "_s + sqlText(key);
+}
+
 std::optional<Kullanici> UsersStore::KullaniciBul(const QString &key)
 {
-    return named(
-        key, m_oturum.sorgula(isNumeric(key)
-                                  ? userSql(sqlNumber(leadingNumber(key)))
-                                  : u"Select * From Users Where User_name = "_s + sqlText(key)));
+    return named(key, m_oturum.sorgula(u"Select * From Users Where "_s + keyCondition(key)));
+}
+
+QList<RecordRows> UsersStore::kayit(const QString &key)
+{
+    // Whoever may change a password here sees it on the screen, but not
+    // whoever stands behind him when a box comes up.
+    const auto hidden = [](const QVariant &) { return u"••••••"_s; };
+    const auto yesNo = [](const QVariant &value) {
+        return value.toInt() != 0 ? u"var"_s : u"yok"_s;
+    };
+    return {
+        {.table = u"Users"_s,
+         .where = keyCondition(key),
+         .label = u"Kullanıcı "_s + key,
+         .fields = {{u"User_Name"_s, u"Ad"_s},
+                    {u"user_pass"_s, u"Şifre"_s, hidden},
+                    {u"user_yetki1"_s, u"Sipariş kontrolü yetkisi"_s, yesNo}},
+         .comesBack = true},
+        {.table = u"MenuKisit"_s,
+         .where = u"MK_userid In (Select User_ID From Users Where "_s + keyCondition(key) + u')',
+         .label = u"Yetki"_s,
+         .fields = {{u"MK_menuid"_s, u"Menü"_s,
+                     lookedUp(*m_oturum.Veritabani, u"Menuler"_s, u"m_ID"_s, u"m_Adi"_s)}},
+         .identity = {u"MK_menuid"_s}}};
 }
 
 QList<qint32> UsersStore::rights(qint32 User_ID)
@@ -126,27 +153,29 @@ static QString rightsRemoval(qint32 User_ID)
     return u"DELETE From Menukisit Where Mk_userid = "_s + sqlNumber(User_ID);
 }
 
-void UsersStore::save(const Kullanici &user, const QList<qint32> &rights)
+void UsersStore::save(const Kullanici &user, const QList<qint32> &rights, LoadedRows &okunan)
 {
-    Transaction transaction(*m_oturum.Veritabani);
-    const qint32 number = writeUser(user);
-    m_oturum.calistir(rightsRemoval(number));
-    Recordset rows = m_oturum.Veritabani->table(u"MenuKisit"_s);
-    for (const qint32 item : rights) {
-        rows.addNew();
-        rows.set(u"MK_userid", number);
-        rows.set(u"MK_menuid", item);
-        rows.update();
-    }
-    transaction.commit();
+    okunan.write(*m_oturum.Veritabani, [&] {
+        if (user.User_ID == 0 && find(user.User_Name))
+            throw DatabaseError(u"BU ADDA BİR KULLANICI VAR, BAŞKA BİR AD VERİN..."_s);
+        const qint32 number = writeUser(user);
+        m_oturum.calistir(rightsRemoval(number));
+        Recordset rows = m_oturum.Veritabani->table(u"MenuKisit"_s);
+        for (const qint32 item : rights) {
+            rows.addNew();
+            rows.set(u"MK_userid", number);
+            rows.set(u"MK_menuid", item);
+            rows.update();
+        }
+    });
 }
 
-void UsersStore::remove(qint32 User_ID)
+void UsersStore::remove(qint32 User_ID, LoadedRows &okunan)
 {
-    Transaction transaction(*m_oturum.Veritabani);
-    m_oturum.calistir(u"DELETE From Users Where User_Id = "_s + sqlNumber(User_ID));
-    m_oturum.calistir(rightsRemoval(User_ID));
-    transaction.commit();
+    okunan.write(*m_oturum.Veritabani, [&] {
+        m_oturum.calistir(u"DELETE From Users Where User_Id = "_s + sqlNumber(User_ID));
+        m_oturum.calistir(rightsRemoval(User_ID));
+    });
 }
 
 std::optional<QString> clearPassword(const Kullanici &user)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "LoadedRows.h"
 #include "Oturum.h"
 
 #include <optional>
@@ -38,11 +39,15 @@ public:
     /// Those who can log in and open the user administration.
     QList<qint32> administrators();
 
+    /// What the user of that key is made of, for those who load and save him.
+    QList<RecordRows> kayit(const QString &key);
+
     /// Writes the user and replaces his rights, all or nothing. Of one that is
-    /// stored only the password and the extra right change.
-    void save(const Kullanici &user, const QList<qint32> &rights);
+    /// stored only the password and the extra right change. A new one whose
+    /// name another user has is refused.
+    void save(const Kullanici &user, const QList<qint32> &rights, LoadedRows &okunan);
     /// Removes the user and his rights, all or nothing.
-    void remove(qint32 User_ID);
+    void remove(qint32 User_ID, LoadedRows &okunan);
 
 private:
     qint32 nextNumber();

@@ -6,6 +6,7 @@
 #include "Numbers.h"
 #include "Printers.h"
 #include "RegistryPaths.h"
+#include "SaveOver.h"
 #include "Theme.h"
 #include "ui_AyarSekmesi.h"
 #include "UsersStore.h"
@@ -98,6 +99,7 @@ void AyarSekmesi::showCompany()
     m_ui->klasorler->setEnabled(false);
     for (QLineEdit *box : {m_ui->YeniYol, m_ui->ResimyoluX, m_ui->Transferyolu})
         box->clear();
+    m_loadedCompany = m_store.sirketiOku();
     m_sirket = m_store.sirket();
     if (!m_sirket.has_value()) {
         m_context.messages.say(this, u"ŞİRKET KAYITLI DEĞİL..."_s, MessageIcon::Critical,
@@ -117,6 +119,7 @@ void AyarSekmesi::showSettings()
     for (QLineEdit *box : {m_ui->TeraziTip, m_ui->ComportID, m_ui->comportST, m_ui->txtsabitayar})
         box->clear();
     m_ui->YaziciAdi->setCurrentText({});
+    m_loadedSettings = m_store.ayarlariOku();
     m_ayarlar = m_store.ayarlar();
     m_ui->kayitNotu->setVisible(!m_ayarlar.has_value());
     if (!m_ayarlar.has_value())
@@ -192,7 +195,13 @@ bool AyarSekmesi::kaydet()
         if (m_ayarlar.has_value()) {
             if (!numbersFit())
                 return false;
-            m_store.kaydet(typedSettings());
+            const SaveEnd end =
+                saveOver(m_context.messages, this, m_loadedSettings,
+                         [this](LoadedRows &loaded) { m_store.kaydet(typedSettings(), loaded); });
+            if (end == SaveEnd::Theirs || end == SaveEnd::Gone)
+                showSettings();
+            if (end != SaveEnd::Done)
+                return false;
             m_ayarlar = m_store.ayarlar();
             if (m_ayarlar.has_value())
                 showNumbers(); // an empty box was saved as 0
@@ -221,7 +230,13 @@ bool AyarSekmesi::savePaths()
             return false;
     }
     const bool another = yeni != nullptr;
-    m_store.yollariDegistir(yollar, std::move(yeni));
+    const SaveEnd end =
+        saveOver(m_context.messages, this, m_loadedCompany,
+                 [&](LoadedRows &loaded) { m_store.yollariDegistir(yollar, yeni, loaded); });
+    if (end == SaveEnd::Theirs || end == SaveEnd::Gone)
+        showCompany();
+    if (end != SaveEnd::Done)
+        return false;
     m_sirket = yollar;
     tellMissingFolders();
     if (another)

@@ -66,6 +66,8 @@ private:
     ScreenContext m_context;
     ParametreServices m_services;
     ParametreStore m_store;
+    LoadedRows m_loadedCompany;
+    LoadedRows m_loadedSettings;
     std::unique_ptr<Ui::AyarSekmesi> m_ui;
     std::optional<Sirket> m_sirket;   ///< as stored; nothing when it is not in the registry
     std::optional<Ayarlar> m_ayarlar; ///< as stored; nothing when there is no row

@@ -51,6 +51,7 @@ int DurumStore::enUzun() const
 bool DurumStore::ekle(const QString &kod)
 {
     const Yer yer = yeri(m_tur);
+    Transaction addition(*m_oturum.Veritabani); // two that add it at once add it once
     Recordset Kayit =
         m_oturum.sorgula(u"Select * From %1 Where %2 = "_s.arg(yer.tablo, yer.alan) + sqlText(kod));
     if (Kayit.next())
@@ -58,6 +59,7 @@ bool DurumStore::ekle(const QString &kod)
     Kayit.addNew();
     Kayit.set(yer.alan, kod);
     Kayit.update();
+    addition.commit();
     return true;
 }
 
@@ -72,5 +74,10 @@ bool DurumStore::kullanilan(const QString &kod) const
 void DurumStore::sil(const QString &kod)
 {
     const Yer yer = yeri(m_tur);
+    Transaction removal(*m_oturum.Veritabani);
+    // A line that got it while the question stood open.
+    if (kullanilan(kod))
+        throw DatabaseError(kod + u" SİPARİŞLERDE KULLANILIYOR, SİLİNEMEZ..."_s);
     m_oturum.calistir(u"DELETE From %1 Where %2 = "_s.arg(yer.tablo, yer.alan) + sqlText(kod));
+    removal.commit();
 }

@@ -21,6 +21,7 @@ public:
     bool ekle(const QString &kod);
     /// Whether a line of an order has the code.
     bool kullanilan(const QString &kod) const;
+    /// Removes the code; throws when a line of an order has it.
     void sil(const QString &kod);
 
 private:

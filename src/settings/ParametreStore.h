@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Ayarlar.h"
+#include "LoadedRows.h"
 #include "Oturum.h"
 #include "RegistryStore.h"
 
@@ -18,8 +19,12 @@ public:
     std::optional<Sirket> sirket() const;
     /// Nothing when XXX has no row.
     std::optional<Ayarlar> ayarlar() const;
+    /// Both as they stand: to be taken before they are shown, for the save that
+    /// may follow.
+    LoadedRows sirketiOku() const;
+    LoadedRows ayarlariOku() const;
     /// Writes the row that is there; where there is none, none is added.
-    void kaydet(const Ayarlar &ayarlar);
+    void kaydet(const Ayarlar &ayarlar, LoadedRows &okunan);
 
     /// The file that a DataYolu names on this system; a legacy file as it was named.
     QString veriDosyasi(const QString &DataYolu) const;
@@ -30,8 +35,8 @@ public:
     static bool girisYapilabilir(Database &db);
     /// Writes the paths into the registry and works by them from then on. yeni
     /// takes the place of the open database; null leaves it. Either all of it
-    /// is done or, with an exception, nothing.
-    void yollariDegistir(const Sirket &yollar, std::unique_ptr<Database> yeni);
+    /// is done or, with an exception, nothing, and yeni is still the caller's.
+    void yollariDegistir(const Sirket &yollar, std::unique_ptr<Database> &yeni, LoadedRows &okunan);
 
 private:
     Oturum &m_oturum;

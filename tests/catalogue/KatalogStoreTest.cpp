@@ -18,6 +18,7 @@ class KatalogStoreTest : public QObject
     QTemporaryDir m_dir;
     Oturum m_oturum;
     KatalogStore m_store{m_oturum};
+    LoadedRows m_unread;
 
     QStringList models(const QString &KatAdi) const
     {
@@ -68,15 +69,15 @@ private Q_SLOTS:
         Katalog katalog = m_store.KatalogBul(u"Bahar"_s);
         QCOMPARE(katalog.keptRows.size(), 1);
         katalog.satirlar = {{u"boş"_s, 3.456, u"O'Hara"_s, 5, u"YZK"_s}};
-        m_store.save(katalog);
+        m_store.save(katalog, m_unread);
         QCOMPARE(stored(), QStringList({u"Bahar 5 3.456 O'Hara"_s, u"Bahar 99 1 "_s}));
         // A row whose product type went is not lost either.
         m_oturum.Veritabani->execute(u"DELETE From Uruntipi Where TipID = 1"_s);
         katalog = m_store.KatalogBul(u"Bahar"_s);
         QVERIFY(katalog.satirlar.isEmpty() && katalog.isStored());
-        m_store.save(katalog);
+        m_store.save(katalog, m_unread);
         QCOMPARE(stored().size(), 2);
-        m_store.remove(u"Bahar"_s);
+        m_store.remove(u"Bahar"_s, m_unread);
         QCOMPARE(stored(), QStringList());
     }
 
@@ -88,7 +89,7 @@ private Q_SLOTS:
             "BEGIN SELECT RAISE(ABORT, 'disk'); END"_s);
         Katalog katalog = m_store.KatalogBul(u"Bahar"_s);
         katalog.satirlar.append({u"boş"_s, 1, {}, 5, {}});
-        QVERIFY_THROWS_EXCEPTION(DatabaseError, m_store.save(katalog));
+        QVERIFY_THROWS_EXCEPTION(DatabaseError, m_store.save(katalog, m_unread));
         QCOMPARE(stored(), before);
     }
 
@@ -96,10 +97,10 @@ private Q_SLOTS:
     {
         Katalog katalog = m_store.KatalogBul(u"Bahar"_s);
         std::reverse(katalog.satirlar.begin(), katalog.satirlar.end());
-        m_store.save(katalog); // merely another order: the models' holds
+        m_store.save(katalog, m_unread); // merely another order: the models' holds
         QCOMPARE(models(u"Bahar"_s), QStringList({u"A75"_s, u"İnci-1"_s}));
         katalog.elleSirali = true;
-        m_store.save(katalog);
+        m_store.save(katalog, m_unread);
         QCOMPARE(models(u"Bahar"_s), QStringList({u"İnci-1"_s, u"A75"_s}));
         QVERIFY(m_store.KatalogBul(u"Bahar"_s) == katalog);
     }
@@ -116,7 +117,7 @@ private Q_SLOTS:
         Katalog katalog = m_store.KatalogBul(u"Bahar"_s);
         QVERIFY(!katalog.elleSirali);
         katalog.elleSirali = true;
-        m_store.save(katalog);
+        m_store.save(katalog, m_unread);
         QVERIFY(m_store.KatalogBul(u"Bahar"_s) == katalog);
     }
 
@@ -124,11 +125,11 @@ private Q_SLOTS:
     {
         const ModelStore models(m_oturum);
         Model ring = models.ModelBul(u"A75"_s, 1).value();
-        models.save(ring, true);
+        models.save(ring, m_unread);
         const Katalog katalog = m_store.KatalogBul(u"Bahar"_s);
         QCOMPARE(katalog.satirlar.size(), 2);
         QCOMPARE(katalog.satirlar.first().katno1, ring.Model_ID);
-        models.remove(u"A75"_s, 1);
+        models.remove(u"A75"_s, 1, m_unread);
         QCOMPARE(m_store.KatalogBul(u"Bahar"_s).satirlar.size(), 1);
         QCOMPARE(stored().size(), 3);
     }

@@ -224,12 +224,10 @@ private Q_SLOTS:
         on.enter({u"Bahar"_s});
         on.oturum.Veritabani->execute(u"Update Katalog Set katgram = 7 Where katno1 = 4"_s);
         const QString before = on.stored(u"Bahar"_s);
-        on.messages.expect({.text = u"BU KATALOG AÇILDIKTAN SONRA BAŞKA BİR YERDE DEĞİŞTİRİLMİŞ."
-                                    "\n\nÜZERİNE YAZILSIN MI ?"_s,
-                            .answer = MessageAnswer::No,
-                            .defaultAnswer = MessageAnswer::No});
+        on.messages.expectChange({u"Model İnci-1|Gram|1.1|7"_s}, ChangeAnswer::Theirs);
         on.press(Qt::Key_K, u"cmdKayit"_s);
         QCOMPARE(on.stored(u"Bahar"_s), before);
+        QVERIFY(on.rows().contains(u"İnci-1 7.00 "_s)); // the other's is on the screen
         const QString question = u"Bahar SİLİNECEK. ONAYLIYORMUSUNUZ.?"_s;
         on.remove(question, MessageAnswer::No, MessageAnswer::No);
         QVERIFY(on.isEditing());

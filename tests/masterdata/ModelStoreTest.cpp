@@ -58,6 +58,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_dir;
     std::unique_ptr<Oturum> m_oturum;
     std::unique_ptr<ModelStore> m_store;
+    LoadedRows m_unread;
 };
 
 void ModelStoreTest::findsAModelOfItsType()
@@ -91,14 +92,14 @@ void ModelStoreTest::savesTheRowsThatCount()
                  {MalzemeTipi::YariMamul, u"K-1"_s, 1, -2},
                  {MalzemeTipi::YariMamul, u"K-2"_s, 2, 2}},
                 0};
-    m_store->save(model, false);
+    m_store->save(model, m_unread);
     QCOMPARE(rows(u"Yeni"_s, 3), QStringList({u"0 1 1.5 1.25"_s, u"1 2 2 1.25"_s}));
     Recordset last = m_oturum->Veritabani->query(u"Select Max(Model_ID) as n From Model"_s);
     last.next();
     QCOMPARE(model.Model_ID, qint32(last.integer(u"n")));
 
     Model bare{u"Sade"_s, 1, 3, {{}}, 0};
-    m_store->save(bare, false);
+    m_store->save(bare, m_unread);
     QCOMPARE(rows(u"Sade"_s, 1), QStringList(u"0 0 0 3"_s));
 }
 
@@ -108,12 +109,12 @@ void ModelStoreTest::replacesAFoundModelWholly()
     const qint32 before = ring.Model_ID;
     ring.satirlar.removeFirst();
     ring.M_Miktar = 2.5;
-    m_store->save(ring, true);
+    m_store->save(ring, m_unread);
     QCOMPARE(rows(u"A75"_s, 1), QStringList(u"1 1 1 2.5"_s));
     QVERIFY(ring.Model_ID > before); // a label of the old row must not mean another model
     QCOMPARE(rows(u"A75"_s, 2), QStringList(u"1 2 2 5"_s));
 
-    m_store->remove(u"a75"_s, 2);
+    m_store->remove(u"a75"_s, 2, m_unread);
     QCOMPARE(rows(u"A75"_s, 2), QStringList());
     QCOMPARE(rows(u"A75"_s, 1).size(), 1);
 
@@ -138,13 +139,13 @@ void ModelStoreTest::aFailedWriteKeepsTheOldRows()
     // The second row meets the end of the disk.
     m_oturum->Veritabani->engine().run(u"CREATE TRIGGER full BEFORE INSERT ON Model WHEN NEW.M_Tip "
                                        "= 1 BEGIN SELECT RAISE(ABORT, 'disk dolu'); END"_s);
-    QVERIFY_THROWS_EXCEPTION(DatabaseError, m_store->save(ring, true));
+    QVERIFY_THROWS_EXCEPTION(DatabaseError, m_store->save(ring, m_unread));
     QCOMPARE(rows(u"A75"_s, 1), before);
     QCOMPARE(oldLabels(), QStringList());
     QCOMPARE(ring, asked);
 
     m_oturum->Veritabani->engine().run(u"DROP TRIGGER full"_s);
-    m_store->save(ring, true);
+    m_store->save(ring, m_unread);
     QCOMPARE(rows(u"A75"_s, 1), before);
 }
 
@@ -157,7 +158,7 @@ void ModelStoreTest::keepsTheCodesOfEverySpelling()
     QVERIFY(!m_store->malzemeBul(MalzemeTipi::YariMamul, u"O'Ne İğ"_s));
 
     Model model{u"Işık'ın \"Gülü\""_s, 2, 1, {{MalzemeTipi::Tas, stone->kod, stone->id, 2}}, 0};
-    m_store->save(model, false);
+    m_store->save(model, m_unread);
     QCOMPARE(m_store->ModelBul(model.ad, 2)->satirlar, model.satirlar);
     QVERIFY(!m_store->ModelBul(u"İşık'ın \"Gülü\""_s, 2)); // ı and i are two letters
 }

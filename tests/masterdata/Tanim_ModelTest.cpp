@@ -347,15 +347,16 @@ void Tanim_ModelTest::asksBeforeAnotherProgramsRowsAreReplaced()
         on.oturum.Veritabani->execute(
             u"Insert into Model (Model, M_Uruntip, M_Tip, M_Kod, M_Adet, M_Miktar) "
             "values ('%1', 1, 0, 2, 7, 1)"_s.arg(model));
-        for (const MessageAnswer answer : {MessageAnswer::No, MessageAnswer::Yes}) {
-            on.messages.expect({.text = u"BU MODEL AÇILDIKTAN SONRA BAŞKA BİR YERDE "
-                                        "DEĞİŞTİRİLMİŞ.\n\nÜZERİNE YAZILSIN MI ?"_s,
-                                .answer = answer,
-                                .icon = MessageIcon::Exclamation,
-                                .defaultAnswer = MessageAnswer::No});
+        QStringList changes = {u"Model %1|Gram|9|1"_s.arg(model),
+                               u"Taş PRL 1|(bütünü)|yok|Adet: 7"_s};
+        if (model == u"A75"_s)
+            changes +=
+                {u"Taş ZRK 2|(bütünü)|Adet: 4|yok"_s, u"Yarı mamul K-1|(bütünü)|Adet: 1|yok"_s};
+        for (const ChangeAnswer answer : {ChangeAnswer::Back, ChangeAnswer::Mine}) {
+            on.messages.expectChange(changes, answer);
             on.save();
             on.messages.verify();
-            if (answer == MessageAnswer::No)
+            if (answer == ChangeAnswer::Back)
                 QCOMPARE(on.rows(model, 1), QStringList(u"0 2 7 1"_s));
         }
         QVERIFY(!on.rows(model, 1).contains(u"0 2 7 1"_s)); // both of them would be one model

@@ -45,6 +45,57 @@ private Q_SLOTS:
         QCOMPARE(on.text(u"TasBirimi"_s), u"USD"_s);
     }
 
+    void theUserChoosesWhoseChangeStays()
+    {
+        Stones on;
+        const auto other = [&](double price) {
+            on.oturum.Veritabani->execute(
+                u"Update Tas Set TasFiyati = %1 Where TasID = 1"_s.arg(price));
+        };
+        const auto type = [&] {
+            on.enter({u"ZRK 2"_s, u"7"_s});
+            other(3);
+        };
+        const auto change = [](const QString &mine, const QString &standing) {
+            return QStringList{u"Taş ZRK 2|Fiyatı|%1|%2"_s.arg(mine, standing)};
+        };
+        type();
+        on.messages.expectChange(change(u"7"_s, u"3"_s), ChangeAnswer::Back);
+        on.press(Qt::Key_K, u"cmdKayit"_s);
+        QCOMPARE(on.text(u"TasFiyati"_s), u"7"_s);
+        // Changed once more while the box stands open: asked once more.
+        on.messages.expectChange(change(u"7"_s, u"3"_s), ChangeAnswer::Mine, [&] { other(4); });
+        on.messages.expectChange(change(u"7"_s, u"4"_s), ChangeAnswer::Theirs);
+        on.press(Qt::Key_K, u"cmdKayit"_s);
+        QVERIFY(on.isEditing());
+        QCOMPARE(on.text(u"TasFiyati"_s), u"4.00"_s);
+        on.key(Qt::Key_Escape);
+        type();
+        on.messages.expectChange(change(u"7"_s, u"3"_s), ChangeAnswer::Mine);
+        on.press(Qt::Key_K, u"cmdKayit"_s);
+        QCOMPARE(on.stone(u"ZRK 2"_s).section(u'|', 1, 1), u"7"_s);
+        QVERIFY(!on.isEditing());
+
+        // A removal, and a new stone whose code another took meanwhile.
+        on.enter({u"ZRK 2"_s});
+        other(5);
+        on.messages.expect(u"ZRK 2 SİLİNECEK. ONAYLIYORMUSUNUZ.?"_s, MessageAnswer::Yes);
+        on.messages.expectChange(
+            {u"Taş ZRK 2|(bütünü)|yok|Fiyatı: 5, Birimi: USD, Katsayısı: 0.02"_s},
+            ChangeAnswer::Mine);
+        on.press(Qt::Key_S, u"cmdsil"_s);
+        QCOMPARE(on.stone(u"ZRK 2"_s), u"none"_s);
+        on.enter({u"yeni"_s, u"1"_s});
+        on.oturum.Veritabani->execute(u"Insert into Tas (Taskodu, TasFiyati) values ('YENI', 9)"_s);
+        on.messages.expectChange(
+            {u"Taş yeni|Fiyatı|1|9"_s, u"Taş yeni|Birimi|USD|"_s, u"Taş yeni|Katsayısı|0|"_s},
+            ChangeAnswer::Theirs);
+        on.press(Qt::Key_K, u"cmdKayit"_s);
+        on.messages.verify();
+        QCOMPARE(on.text(u"TasFiyati"_s), u"9.00"_s);
+        QCOMPARE(on.control<QLabel>(u"kayitDurumu"_s)->text(), u"Kayıtlı"_s);
+    }
+
     void changesAStone()
     {
         const Stones on;

@@ -92,18 +92,21 @@ private Q_SLOTS:
         QCOMPARE(on.type(1), u"Yüzük|YZK|2|"_s);
     }
 
-    void savesNoTypeThatIsGone()
+    void bringsBackATypeUnderItsNumber()
     {
         ProductTypes on;
         on.enter({u"3"_s, u"Halka"_s});
         on.oturum.Veritabani->execute(u"DELETE From UrunTipi Where TipID = 3"_s);
-        on.messages.expect({.text = u"3 numaralı ürün tipi bu arada silinmiş, değiştirilemez."_s,
-                            .title = u"HATA"_s,
-                            .icon = MessageIcon::Critical});
+        const QStringList gone{u"Ürün tipi 3|(bütünü)|"
+                               "Ürün tipi: Halka, Kısa ad: KPE, Sıra no: 3|yok"_s};
+        on.messages.expectChange(gone, ChangeAnswer::Back);
         on.press(Qt::Key_K, u"cmdKayit"_s);
-        on.messages.verify();
         QCOMPARE(on.text(u"UrunTipi"_s), u"Halka"_s);
         QCOMPARE(on.row(u"Select Count(*) as n From UrunTipi"_s), u"2"_s);
+        on.messages.expectChange(gone, ChangeAnswer::Mine);
+        on.press(Qt::Key_K, u"cmdKayit"_s);
+        on.messages.verify();
+        QCOMPARE(on.type(3), u"Halka|KPE|3|"_s);
     }
 
     void removesAfterAQuestion()

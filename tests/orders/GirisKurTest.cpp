@@ -119,6 +119,7 @@ private Q_SLOTS:
     void picksADate();
     void takesOnlyNumbers();
     void guardsUnsavedRates();
+    void theUserChoosesWhoseRatesStay();
     void keepsTheOldRatesWhenSavingFails();
 };
 
@@ -433,6 +434,28 @@ void GirisKurTest::guardsUnsavedRates()
     QVERIFY(!s.isEntering());
     s.key(Qt::Key_Return);
     QCOMPARE(s.shown().first(), u"USD 1.8000"_s);
+}
+
+void GirisKurTest::theUserChoosesWhoseRatesStay()
+{
+    Screen s;
+    // Without rates of its own; another workstation carries some to it meanwhile.
+    s.goTo(u"07.03.2012"_s);
+    s.enter(u"9"_s);
+    s.oturum.Veritabani->execute(u"Insert into DovizD (Tarih, Dovcinsi, Kur) values ("_s +
+                                 sqlDate(newDate) + u", 'USD', 1.9)"_s);
+    const QStringList theirs = s.stored(newDate);
+    const QStringList change = {
+        u"Kur USD|Satış Kuru|9|1.9"_s, u"Kur EUR|(bütünü)|Satış Kuru: 0|yok"_s,
+        u"Kur GBP|(bütünü)|Satış Kuru: 0|yok"_s, u"Kur TL|(bütünü)|Satış Kuru: 1|yok"_s};
+    s.messages.expectChange(change, ChangeAnswer::Back);
+    s.press(u"Kayit_Cmd"_s);
+    QVERIFY(s.isEntering());
+    s.messages.expectChange(change, ChangeAnswer::Theirs);
+    s.press(u"Kayit_Cmd"_s);
+    QCOMPARE(s.stored(newDate), theirs);
+    QCOMPARE(s.shown(), QStringList{u"USD 1.9000"_s});
+    QVERIFY(s.control(u"Sil_Cmd"_s)->isEnabled());
 }
 
 void GirisKurTest::keepsTheOldRatesWhenSavingFails()

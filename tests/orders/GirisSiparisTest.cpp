@@ -144,6 +144,7 @@ private Q_SLOTS:
     void walksThroughTheStates();
     void savesAFoundOrder();
     void savesTheDateAsTyped();
+    void theUserChoosesWhoseOrderStays();
     void tellsWhatIsMissing();
     void findsTheCustomer();
     void removesRows();
@@ -352,6 +353,35 @@ void GirisSiparisTest::savesTheDateAsTyped()
     type(u"9.3.27"_s);
     QTRY_COMPARE(s.messages.remaining(), 0);
     QCOMPARE(s.header(1, u"TesTrh"), u"09.03.2027"_s);
+}
+
+void GirisSiparisTest::theUserChoosesWhoseOrderStays()
+{
+    Screen s;
+    const QStringList change = {u"Sipariş 1|Açıklama|benim|Acele"_s,
+                                u"Satır A75 SR YZK ölçü 14|Sipariş durumu||HAZIR"_s};
+    const auto open = [&] {
+        s.find(u"1"_s);
+        s.control<QLineEdit>(u"Aciklama"_s)->setText(u"benim"_s);
+        s.oturum.Veritabani->execute(
+            u"UPDATE SiparisD SET Drm1 = 'HAZIR' Where SipnumD = 1 and SipUruntip = 1"_s);
+    };
+    open();
+    for (const ChangeAnswer answer : {ChangeAnswer::Back, ChangeAnswer::Theirs}) {
+        s.messages.expectChange(change, answer);
+        s.saveByKey();
+        QCOMPARE(s.text(u"Aciklama"_s), answer == ChangeAnswer::Back ? u"benim"_s : u"Acele"_s);
+        QCOMPARE(s.field(1, u"Drm1").filter(u"HAZIR"_s).size(), 1);
+    }
+    QVERIFY(s.control(u"cmdsil"_s)->isEnabled()); // the other's order is being edited
+    s.key(Qt::Key_Escape);                        // and nothing of it is unsaved
+    s.oturum.Veritabani->execute(u"UPDATE SiparisD SET Drm1 = '' Where SipnumD = 1"_s);
+    open();
+    s.messages.expectChange(change, ChangeAnswer::Mine);
+    s.messages.expect(slipQuestion, MessageAnswer::No);
+    s.saveByKey();
+    QCOMPARE(s.header(1, u"Aciklama"), u"benim"_s);
+    QCOMPARE(s.field(1, u"Drm1"), QStringList({u""_s, u""_s, u""_s}));
 }
 
 void GirisSiparisTest::tellsWhatIsMissing()

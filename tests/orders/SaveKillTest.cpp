@@ -32,7 +32,8 @@ static int makeLongOrder(OrderFixture &company)
     SiparisSatiri row = siparis.satirlar.first();
     row.aciklama = u"0"_s;
     siparis.satirlar.fill(row, rowCount);
-    store.save(siparis);
+    LoadedRows added;
+    store.save(siparis, added);
     return siparis.Sipnum;
 }
 
@@ -69,7 +70,8 @@ void SaveKillTest::linesAreAllOldOrAllNew()
         // The next save goes on from there.
         const SiparisStore store(company.oturum);
         Siparis siparis = *store.SiparisBul(order);
-        QVERIFY(store.save(siparis));
+        LoadedRows loaded = store.oku(order);
+        QVERIFY(store.save(siparis, loaded));
     }
 }
 
@@ -81,11 +83,12 @@ void SaveKillTest::aFullDiskLeavesTheOldLines()
     const SiparisStore store(company.oturum);
     Siparis siparis = *store.SiparisBul(order);
     setNotes(siparis, u"yeni"_s);
+    LoadedRows loaded = store.oku(order);
     int refused = 0;
     for (qint64 room = 0;; ++room) {
         disk.takeWrites(room);
         try {
-            store.save(siparis);
+            store.save(siparis, loaded);
             break;
         } catch (const DatabaseError &error) {
             QVERIFY2(error.text().contains(u"yer kalmadı"_s), qPrintable(error.text()));

@@ -19,7 +19,8 @@ int main(int argc, char **argv)
         siparis.Aciklama = QString::number(save);
         for (SiparisSatiri &row : siparis.satirlar)
             row.aciklama = siparis.Aciklama;
-        if (!store.save(siparis))
+        LoadedRows loaded = store.oku(siparis.Sipnum);
+        if (!store.save(siparis, loaded))
             return 1;
         std::printf("%d\n", save);
         std::fflush(stdout);

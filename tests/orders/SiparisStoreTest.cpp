@@ -4,6 +4,7 @@
 #include "OrderLookups.h"
 #include "ProductLabel.h"
 #include "SiparisKontrol.h"
+#include "SqliteEngine.h"
 #include "TestRegistry.h"
 
 #include <QtTest>
@@ -25,6 +26,7 @@ private Q_SLOTS:
     void tellsTypesOfOneShortNameApart();
     void savesAsNew();
     void missingHeader();
+    void linesOfOthersAreNotDeletedUnseen();
     void removes();
     void readsLabels();
     void findsModels();
@@ -105,13 +107,14 @@ void SiparisStoreTest::savingTwiceWritesTheSameLines()
 {
     OrderFixture company;
     const SiparisStore store(company.oturum);
+    LoadedRows unread;
     const QStringList before = company.lines(1);
     std::optional<Siparis> siparis = store.SiparisBul(1);
     siparis->Aciklama = u"O'Hara 'nın siparişi"_s;
-    QVERIFY(store.save(*siparis));
+    QVERIFY(store.save(*siparis, unread));
     QCOMPARE(company.lines(1), QStringList({before[1], before[0], before[2]}));
     const QStringList once = company.lines(1);
-    QVERIFY(store.save(*siparis));
+    QVERIFY(store.save(*siparis, unread));
     QCOMPARE(company.lines(1), once);
     QCOMPARE(store.SiparisBul(1)->Aciklama, u"O'Hara 'nın siparişi"_s);
     QCOMPARE(company.lines(2).size(), 1); // other orders stay
@@ -121,10 +124,11 @@ void SiparisStoreTest::keepsTheOrderDate()
 {
     OrderFixture company;
     const SiparisStore store(company.oturum);
+    LoadedRows unread;
     std::optional<Siparis> siparis = store.SiparisBul(1);
     siparis->SipTrh = QDate(2020, 1, 1);
     siparis->TesTrh = QDate(2020, 1, 2);
-    QVERIFY(store.save(*siparis));
+    QVERIFY(store.save(*siparis, unread));
     QCOMPARE(company.header(1, u"SipTrh"), u"01.03.2012"_s);
     QCOMPARE(company.header(1, u"TesTrh"), u"02.01.2020"_s);
 }
@@ -137,12 +141,13 @@ void SiparisStoreTest::keepsLinesThatCannotBeShown()
     company.addLine(1, 1, u"A75"_s, 3, u"SR"_s, 8, {}); // the model has no earring
     company.addLine(1, 7, u"İnci-1"_s, 1, u"SR"_s, 9);  // its row has no other cell
     const SiparisStore store(company.oturum);
+    LoadedRows unread;
     std::optional<Siparis> siparis = store.SiparisBul(1);
     QCOMPARE(siparis->allKeptLines().size(), 4);
     const QStringList ids = company.field(1, u"Dotosayi").mid(3);
 
     siparis->satirlar[1].adetler[0] = 10;
-    QVERIFY(store.save(*siparis));
+    QVERIFY(store.save(*siparis, unread));
     QCOMPARE(company.lines(1),
              QStringList({u"5 A75 1 XX [] 4"_s, u"6 A75 77 SR [] 6"_s, u"1 A75 3 SR [] 8"_s,
                           u"7 İnci-1 1 SR [] 9"_s, u"2 A75 2 SR [ölçü 14] 10"_s,
@@ -152,7 +157,7 @@ void SiparisStoreTest::keepsLinesThatCannotBeShown()
     // A row that the user removes takes its own hidden lines along.
     siparis = store.SiparisBul(1);
     siparis->satirlar.removeIf([](const SiparisSatiri &row) { return row.model == u"İnci-1"_s; });
-    QVERIFY(store.save(*siparis));
+    QVERIFY(store.save(*siparis, unread));
     QCOMPARE(company.lines(1).filter(u"İnci"_s), QStringList());
     QCOMPARE(company.lines(1).filter(u"XX"_s).size(), 1);
 }
@@ -173,10 +178,11 @@ void SiparisStoreTest::keepsTheStateOfEachLine()
         lines.update();
     }
     const SiparisStore store(company.oturum);
+    LoadedRows unread;
     std::optional<Siparis> siparis = store.SiparisBul(1);
     QVERIFY(siparis->satirlar[0].hasBegun());
     QVERIFY(!siparis->satirlar[1].hasBegun()); // 01.01.2000 is no date
-    QVERIFY(store.save(*siparis));
+    QVERIFY(store.save(*siparis, unread));
     // Necklace and ring of one row stand at different points of production.
     QCOMPARE(company.field(1, u"SipUruntip"), QStringList({u"2"_s, u"1"_s, u"3"_s}));
     QCOMPARE(company.field(1, u"Drm1"), QStringList({u"ONAYLANDI"_s, u"HAZIR"_s, u""_s}));
@@ -198,8 +204,9 @@ void SiparisStoreTest::tellsTypesOfOneShortNameApart()
     const int other = int(types.integer(u"TipID"));
     company.addLine(1, 1, u"boş"_s, other, u"SR"_s, 6);
     const SiparisStore store(company.oturum);
+    LoadedRows unread;
     std::optional<Siparis> siparis = store.SiparisBul(1);
-    QVERIFY(store.save(*siparis));
+    QVERIFY(store.save(*siparis, unread));
     QCOMPARE(company.lines(1).filter(u"boş"_s), QStringList({u"2 boş %1 SR [] 6"_s.arg(other)}));
 }
 
@@ -208,8 +215,9 @@ void SiparisStoreTest::savesAsNew()
     OrderFixture company;
     company.oturum.Veritabani->execute(u"UPDATE SiparisD SET Drm1 = 'HAZIR' Where SipnumD = 1"_s);
     const SiparisStore store(company.oturum);
+    LoadedRows unread;
     Siparis siparis = *store.SiparisBul(1);
-    store.saveAsNew(siparis, QDate(2012, 7, 8));
+    store.saveAsNew(siparis, QDate(2012, 7, 8), unread);
     QCOMPARE(siparis.Sipnum, 5);
     QCOMPARE(company.header(5, u"SipTrh"), u"08.07.2012"_s);
     QCOMPARE(company.field(5, u"SipSatir"), QStringList({u"0"_s, u"0"_s, u"0"_s}));
@@ -224,18 +232,54 @@ void SiparisStoreTest::missingHeader()
 {
     OrderFixture company;
     const SiparisStore store(company.oturum);
+    LoadedRows unread;
     Siparis siparis = *store.SiparisBul(1);
     company.oturum.Veritabani->execute(u"DELETE From SiparisB Where Sipnum = 1"_s);
     const QStringList before = company.lines(1);
-    QVERIFY(!store.save(siparis));
+    QVERIFY(!store.save(siparis, unread));
     QCOMPARE(company.lines(1), before);
+}
+
+void SiparisStoreTest::linesOfOthersAreNotDeletedUnseen()
+{
+    OrderFixture company;
+    company.addLine(1, 5, u"A75"_s, 1, u"XX"_s, 4); // has no cell
+    const SiparisStore store(company.oturum);
+    LoadedRows loaded = store.oku(1);
+    Siparis mine = *store.SiparisBul(1);
+    mine.Aciklama = u"benim"_s;
+    company.addLine(1, 9, u"A75"_s, 1, u"BY"_s, 6);
+    const QStringList theirs = company.lines(1);
+    QVERIFY_THROWS_EXCEPTION(ChangedMeanwhile, store.save(mine, loaded));
+    QVERIFY_THROWS_EXCEPTION(ChangedMeanwhile, store.remove(1, loaded));
+    QCOMPARE(company.lines(1), theirs);
+    QCOMPARE(company.header(1, u"Aciklama"), u"Acele"_s); // nor is the header half of a save
+
+    // Between the header and its lines: nothing but the header is written.
+    company.oturum.Veritabani->execute(
+        u"DELETE From SiparisD Where Siprenk = 'BY' and SipSatir = 9"_s);
+    company.oturum.Veritabani->engine().run(
+        u"CREATE TRIGGER t AFTER UPDATE ON SiparisB BEGIN UPDATE SiparisD SET Drm1 = 'HAZIR' WHERE "
+        "SipnumD = 1; END"_s);
+    QVERIFY_THROWS_EXCEPTION(ChangedMeanwhile, store.save(mine, loaded));
+    QCOMPARE(company.header(1, u"Aciklama"), u"benim"_s);
+    QCOMPARE(company.field(1, u"Drm1"), QStringList(4, u"HAZIR"_s));
+    company.oturum.Veritabani->engine().run(u"DROP TRIGGER t"_s);
+
+    // A hidden line that another wrote anew, as it was: there is still one of it.
+    loaded = store.oku(1);
+    mine = *store.SiparisBul(1);
+    company.oturum.Veritabani->execute(u"UPDATE SiparisD SET Dotosayi = 99 Where Siprenk = 'XX'"_s);
+    QVERIFY(store.save(mine, loaded));
+    QCOMPARE(company.lines(1).filter(u"XX"_s), QStringList{u"5 A75 1 XX [] 4"_s});
 }
 
 void SiparisStoreTest::removes()
 {
     OrderFixture company;
     const SiparisStore store(company.oturum);
-    store.remove(1);
+    LoadedRows unread;
+    store.remove(1, unread);
     QVERIFY(company.header(1, u"Sipnum").isNull());
     QCOMPARE(company.lines(1), QStringList());
     QCOMPARE(company.lines(2).size(), 1);

@@ -155,6 +155,7 @@ private Q_SLOTS:
     void emptiesCellsOnlyWithoutTheRight();
     void guardsUnsavedEdits();
     void goesOnAfterALineThatFails();
+    void tellsWhatBecameOfALine();
     void showsWhatIsMadeOfTheCurrentOrder();
     void marksOrdersAndPrintsThem();
 };
@@ -351,6 +352,42 @@ void RaporGenelTest::goesOnAfterALineThatFails()
     s.press(u"cmdKayit1"_s);
     QCOMPARE(s.field(3, u"Drm1"), QStringList({u"HAZIR"_s, u"ONAYLANDI"_s}));
     QCOMPARE(s.grid()->model()->rowCount(), 0);
+}
+
+void RaporGenelTest::tellsWhatBecameOfALine()
+{
+    Control s;
+    const auto set = [&] {
+        s.find(u"3"_s);
+        s.goTo(0, TakipModel::SipDur);
+        s.enter();
+        s.enter(u"h"_s); // HAZIR
+        s.messages.expect(saveQuestion, MessageAnswer::Yes);
+    };
+    const auto first = [&](const QString &change) {
+        s.oturum.Veritabani->execute(u"%1 Where SipnumD = 3 and Dotosayi = %2"_s.arg(
+            change, s.field(3, u"Dotosayi").first()));
+    };
+    set();
+    first(u"Update SiparisD Set Drm1 = 'ONAYLANDI', Drm2 = 'X'"_s);
+    const QStringList change{u"Satır A75 BY YZK|Sipariş durumu|HAZIR|ONAYLANDI"_s,
+                             u"Satır A75 BY YZK|Üretim durumu||X"_s};
+    s.messages.expectChange(change, ChangeAnswer::Back);
+    s.press(u"cmdKayit1"_s);
+    QCOMPARE(s.cell(0, TakipModel::SipDur), u"HAZIR"_s);
+    s.messages.expect(saveQuestion, MessageAnswer::Yes);
+    s.messages.expectChange(change, ChangeAnswer::Theirs);
+    s.press(u"cmdKayit1"_s);
+    QCOMPARE(s.cell(0, TakipModel::SipDur), u"ONAYLANDI"_s);
+    s.key(Qt::Key_Escape);
+
+    set();
+    first(u"Delete From SiparisD"_s);
+    s.messages.expect({.text = u"Sipariş bu arada başka bir yerde değiştirilmiş"_s,
+                       .icon = MessageIcon::Exclamation,
+                       .begins = true});
+    s.press(u"cmdKayit1"_s);
+    QCOMPARE(s.cell(0, TakipModel::SipDur), u"HAZIR"_s); // what was typed stays
 }
 
 void RaporGenelTest::showsWhatIsMadeOfTheCurrentOrder()

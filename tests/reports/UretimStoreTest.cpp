@@ -1,6 +1,7 @@
 #include "UretimStore.h"
 #include "Dates.h"
 #include "OrderFixture.h"
+#include "SiparisStore.h"
 #include "SiparisTakip.h"
 #include "SqliteEngine.h"
 #include "TestRegistry.h"
@@ -136,6 +137,7 @@ private Q_SLOTS:
     void tellsWhoMayEdit();
     void opensAnOrder();
     void savesLinesOneByOne();
+    void findsLinesAgainThatWereWrittenAnew();
 };
 
 void UretimStoreTest::addsUpWhatEveryFilterLeaves()
@@ -251,22 +253,21 @@ void UretimStoreTest::savesLinesOneByOne()
     lines[0].state.bitTrh = QDateTime(QDate(2012, 5, 4), QTime(0, 0), Qt::UTC);
     lines[1].state.durum1 = u"O'X"_s;
     lines[2].state.durum2 = u"  "_s;
-    TakipSatiri gone = lines[0];
-    gone.Dotosayi = 999;
-    lines.prepend(gone);
+    TakipKaydi kayit{3, takip.SiparisBul(3)->satirlar, lines};
+    LoadedRows loaded = takip.oku(3);
     db.engine().run(u"CREATE TRIGGER t BEFORE UPDATE ON SiparisD WHEN NEW.Drm1 = 'HAZIR' BEGIN "
                     "SELECT RAISE(ABORT, 'satır bozuk'); END"_s);
     QStringList errors;
     const auto tell = [&](const QString &text) { errors.append(text); };
     const auto goOn = [](int, int) { return true; };
-    QVERIFY(takip.kaydet(3, lines, tell, goOn));
+    QVERIFY(takip.kaydet(kayit, loaded, tell, goOn).ended);
     QCOMPARE(errors, QStringList{u"Kayıt, tablonun anahtarlarına uymuyor. (satır bozuk)"_s});
     QCOMPARE(company.field(3, u"Drm1"), QStringList({u""_s, u"O'X"_s, u""_s, u"ESKİ"_s}));
 
     db.engine().run(u"DROP TRIGGER t"_s);
     errors.clear();
-    const auto stopAtThird = [](int done, int) { return done < 2; };
-    QVERIFY(!takip.kaydet(3, lines, tell, stopAtThird));
+    const auto stopAtSecond = [](int done, int) { return done < 1; };
+    QVERIFY(!takip.kaydet(kayit, loaded, tell, stopAtSecond).ended);
     QVERIFY(errors.isEmpty());
     QCOMPARE(company.field(3, u"Drm1"), QStringList({u"HAZIR"_s, u"O'X"_s, u""_s, u"ESKİ"_s}));
     // An empty status is stored as an empty text and no date as 01.01.2000.
@@ -275,6 +276,49 @@ void UretimStoreTest::savesLinesOneByOne()
     QVERIFY(!old.isNull(u"Drm2"));
     QCOMPARE(old.text(u"Drm2"), QString());
     QCOMPARE(old.date(u"Trhbas"), noDate());
+}
+
+/// Order entry gives the lines new numbers while order control shows the old ones.
+void UretimStoreTest::findsLinesAgainThatWereWrittenAnew()
+{
+    OrderFixture company;
+    company.addLine(3, 2, u"A75"_s, 1, u"BY"_s, 1); // alike but for its row
+    company.addLine(3, 3, u"A75"_s, 2, u"BY"_s, 7);
+    const SiparisTakip takip(company.oturum);
+    LoadedRows loaded = takip.oku(3);
+    TakipKaydi kayit{3, takip.SiparisBul(3)->satirlar, takip.SiparisBul(3)->satirlar};
+    for (TakipSatiri &line : kayit.satirlar)
+        line.state.durum1 = u"%1/%2"_s.arg(line.tip).arg(line.SipSatir);
+    const auto lost = [&] {
+        QStringList lines;
+        for (const TakipSatiri &line :
+             takip
+                 .kaydet(
+                     kayit, loaded, [](const QString &) { QFAIL("no error"); },
+                     [](int, int) { return true; })
+                 .kayip)
+            lines.append(line.state.durum1);
+        return lines;
+    };
+    const SiparisStore orders(company.oturum);
+    LoadedRows order = orders.oku(3);
+    Siparis siparis = *orders.SiparisBul(3);
+    QVERIFY(orders.save(siparis, order));
+    QCOMPARE(lost(), QStringList());
+    QCOMPARE(company.field(3, u"Drm1"), QStringList({u"1/1"_s, u"1/2"_s, u"2/3"_s}));
+
+    // One of the two that are alike goes: which of them is left cannot be told.
+    company.oturum.Veritabani->execute(
+        u"DELETE From SiparisD Where SipnumD = 3 and SipSatir = 1"_s);
+    company.oturum.Veritabani->execute(u"UPDATE SiparisD SET Drm1 = '' Where SipnumD = 3"_s);
+    loaded = takip.oku(3);
+    QCOMPARE(lost(), QStringList({u"1/1"_s, u"1/2"_s}));
+    QCOMPARE(company.field(3, u"Drm1"), QStringList({u""_s, u"2/3"_s}));
+
+    // A line that the user did not touch is left to whoever did.
+    kayit.satirlar = kayit.opened;
+    QCOMPARE(lost(), QStringList());
+    QCOMPARE(company.field(3, u"Drm1"), QStringList({u""_s, u"2/3"_s}));
 }
 
 KUYUM_TEST(UretimStoreTest)

@@ -93,6 +93,24 @@ class Tanim_UserTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void anothersRightsAreNotTakenBackUnseen()
+    {
+        Users on;
+        on.enter({u"admin"_s});
+        on.run(u"Insert into MenuKisit (MK_userid, MK_menuid) values (2, 17)"_s);
+        on.run(u"Update Users Set user_lastentry = DateValue('5.5.2012'), user_pass = 'xx' Where "
+               "User_ID = 2"_s);
+        const QString before = on.user(2);
+        // The day of the login is not what the screen writes; a password is not shown.
+        on.messages.expectChange(
+            {u"Kullanıcı admin|Şifre|••••••|••••••"_s, u"Yetki Kullanıcılar|(bütünü)|yok|var"_s},
+            ChangeAnswer::Back);
+        on.save();
+        on.messages.verify();
+        QCOMPARE(on.user(2), before);
+        QCOMPARE(on.rights(2), QList<qint32>({7, 14, 17}));
+    }
+
     void newUserLogsInAndSeesHisMenu()
     {
         const Users on;

@@ -220,6 +220,25 @@ private Q_SLOTS:
         }
     }
 
+    void anothersSettingsAreNotUndoneUnseen()
+    {
+        Settings on;
+        on.open();
+        on.fill(u"TeraziTip"_s, u"4"_s);
+        on.fill(u"ResimyoluX"_s, u"c:\\benim"_s);
+        on.oturum.Veritabani->execute(u"Update XXX Set ComportID = 3"_s);
+        openRegistry(on.companies.registry())
+            ->execute(u"Update SirketKayit Set ResimYolu = 'c:\\onun' Where Srkkod = 1"_s);
+        on.messages.expectChange({u"Ayarlar|Terazi tipi|4|2"_s, u"Ayarlar|Port|0|3"_s},
+                                 ChangeAnswer::Mine);
+        on.messages.expectChange({u"Şirket|Resim klasörü|c:\\benim|c:\\onun"_s},
+                                 ChangeAnswer::Theirs);
+        on.save();
+        on.messages.verify();
+        QVERIFY(on.XXX().startsWith(u"4|0|"_s));
+        QCOMPARE(on.text(u"ResimyoluX"_s), u"c:\\onun"_s);
+    }
+
     void anotherDatabaseIsOpenedAndRead()
     {
         Settings on;

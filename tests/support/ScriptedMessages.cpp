@@ -40,6 +40,13 @@ void ScriptedMessages::expectInput(const QString &prompt, const std::optional<QS
         Step{.expected = {.text = prompt, .title = title}, .isInput = true, .inputAnswer = answer});
 }
 
+void ScriptedMessages::expectChange(const QStringList &differences, ChangeAnswer answer,
+                                    const std::function<void()> &meanwhile)
+{
+    m_script.append(Step{.expected = {.text = differences.join(u'\n'), .meanwhile = meanwhile},
+                         .change = answer});
+}
+
 void ScriptedMessages::verify()
 {
     for (const Step &step : std::exchange(m_script, {}))
@@ -89,4 +96,18 @@ std::optional<QString> ScriptedMessages::input(QWidget *, const QString &prompt,
     if (step.has_value())
         compareIfSet(step->expected.title, title, u"title \"%1\" of \"%2\""_s.arg(title, prompt));
     return step.has_value() ? step->inputAnswer : std::nullopt;
+}
+
+ChangeAnswer ScriptedMessages::choose(QWidget *, const ChangedMeanwhile &changed)
+{
+    QStringList differences;
+    for (const FieldChange &change : changed.changes())
+        differences.append(
+            QStringList{change.record, change.field, change.mine, change.standing}.join(u'|'));
+    const std::optional<Step> step = take(false, differences.join(u'\n'));
+    if (!step.has_value() || !step->change.has_value())
+        return ChangeAnswer::Back;
+    if (step->expected.meanwhile)
+        step->expected.meanwhile();
+    return *step->change;
 }

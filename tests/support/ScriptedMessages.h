@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ChangedMeanwhile.h"
 #include "Messages.h"
 
 #include <functional>
@@ -43,6 +44,11 @@ public:
     void expectInput(const QString &prompt, const std::optional<QString> &answer,
                      const std::optional<QString> &title = {});
 
+    /// Expects to be told that another changed the record: the differences as
+    /// "record|field|mine|standing".
+    void expectChange(const QStringList &differences, ChangeAnswer answer,
+                      const std::function<void()> &meanwhile = {});
+
     /// Fails the test when something expected has not come.
     void verify();
     /// How many expected messages have not come yet.
@@ -51,6 +57,7 @@ public:
     MessageAnswer show(QWidget *parent, const Message &message) override;
     std::optional<QString> input(QWidget *parent, const QString &prompt, const QString &title,
                                  const QString &preset) override;
+    ChangeAnswer choose(QWidget *parent, const ChangedMeanwhile &changed) override;
 
 private:
     struct Step
@@ -58,6 +65,7 @@ private:
         Expected expected;
         bool isInput = false;
         std::optional<QString> inputAnswer = {};
+        std::optional<ChangeAnswer> change = {};
     };
 
     std::optional<Step> take(bool isInput, const QString &text);
