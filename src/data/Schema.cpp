@@ -1,9 +1,11 @@
 #include "Schema.h"
 
+#include "CompanyLock.h"
 #include "Database.h"
 #include "TurkishText.h"
 
 #include <algorithm>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -288,9 +290,15 @@ void completeTables(Database &db, const QList<TableDef> &tables)
 
 std::unique_ptr<Database> openCompany(const QString &path)
 {
+    // Before the first look: whoever replaces the file has it alone.
+    std::unique_ptr<CompanyLock> lock;
+    if (QFileInfo(path).isFile())
+        lock = std::make_unique<CompanyLock>(path, CompanyLock::Kind::Shared);
     requireOurs(path, {u"Users"_s, u"SiparisB"_s, u"SiparisD"_s},
                 u"Bu dosya bir şirketin veri tabanı değil: "_s);
-    return openCurrent(path, companyTables());
+    std::unique_ptr<Database> db = openCurrent(path, companyTables());
+    db->keep(std::move(lock));
+    return db;
 }
 
 std::unique_ptr<Database> openRegistry(const QString &path)
