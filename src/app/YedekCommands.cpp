@@ -72,5 +72,5 @@ int denetleCommand(const QStringList &arguments)
     const DatabaseCheck check = checkDatabase(*db);
     for (const QString &line : checkReport(check))
         printLine(line);
-    return check.faults.isEmpty() ? 0 : exitRefused;
+    return check.isSound() ? 0 : exitRefused;
 }

@@ -1,6 +1,7 @@
 #include "Schema.h"
 
 #include "CompanyLock.h"
+#include "Counters.h"
 #include "Database.h"
 #include "TurkishText.h"
 
@@ -180,9 +181,12 @@ void requireOurs(const QString &path, const QStringList &tables, const QString &
 std::unique_ptr<Database> openCurrent(const QString &path, const QList<TableDef> &tables)
 {
     std::unique_ptr<Database> db = Database::open(path);
-    if (db->schemaVersion() < currentSchemaVersion) {
+    // A file that an earlier version took over can lack a counter, and a save
+    // would take its rows for one.
+    if (db->schemaVersion() < currentSchemaVersion || !missingCounters(*db, tables).isEmpty()) {
         Transaction transaction(*db);
         completeTables(*db, tables);
+        completeCounters(*db, tables);
         db->setSchemaVersion(currentSchemaVersion);
         transaction.commit();
     }
