@@ -32,6 +32,10 @@ public:
     {
         if (QFileInfo::exists(m_finished))
             refuse(u"Bu klasörde zaten bir veri tabanı var: "_s + m_finished);
+        // What is cleared away is a folder that an earlier run left, not where a
+        // link leads.
+        if (QFileInfo(m_path).isSymLink())
+            refuse(u"Bu kısayolun yerine klasör açılamaz: "_s + m_path);
         clear();
         if (!QDir().mkpath(m_path + u"/resim/KLP"_s) || !QDir().mkpath(m_path + u"/transfer"_s))
             refuse(u"Klasör açılamıyor: "_s + m_path);

@@ -1,5 +1,8 @@
 #include "CommandLine.h"
 
+#include "Database.h"
+#include "OpeningNotes.h"
+#include "OutputPlace.h"
 #include "TakeOver.h"
 
 #include <csignal>
@@ -18,7 +21,7 @@ int aktarCommand(const QStringList &arguments)
 {
     if (arguments.size() != 2)
         throw WrongUsage();
-    TakeOver takeOver(arguments[0], arguments[1]);
+    TakeOver takeOver(writtenPath(arguments[0]), arguments[1]);
     QObject::connect(&takeOver, &TakeOver::tableCopied, &takeOver,
                      [](const QString &name, qint64 rows) {
                          printLine(u"%1: %2 kayıt"_s.arg(name, QString::number(rows)));
@@ -31,6 +34,14 @@ int aktarCommand(const QStringList &arguments)
     std::signal(SIGINT, [](int) { interrupted = 1; });
     interruptWatch.start(100);
     takeOver.run();
-    printLine(u"Bütün tablolar kaynakla karşılaştırıldı, fark yok."_s);
+    const QStringList notes =
+        openingNotes(*Database::open(takeOver.target(), Database::Access::ReadOnly));
+    if (!notes.isEmpty())
+        printLine(u"\nDikkat:"_s);
+    for (const QString &note : notes)
+        printLine(u"  "_s + note);
+    printLine(notes.isEmpty()
+                  ? u"Bütün tablolar kaynakla karşılaştırıldı, fark yok."_s
+                  : u"Bütün tablolar kaynakla karşılaştırıldı, bunlardan başka fark yok."_s);
     return 0;
 }

@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 
+#include "ClosedPipes.h"
 #include "Dates.h"
 
 #include <cstdio>
@@ -55,6 +56,16 @@ void printTo(FILE *stream, const QString &line)
     std::fwrite(bytes.constData(), 1, size_t(bytes.size()), stream);
 }
 
+/// A result that nobody got is none: on a full disk or through a pipe whose
+/// reader has gone.
+int refuseLostOutput(int exitCode)
+{
+    if (std::fflush(stdout) == 0 && outputStands())
+        return exitCode;
+    printError(u"Çıktı yazılamadı: disk dolu ya da çıktıyı okuyan program kapanmış."_s);
+    return exitRefused;
+}
+
 } // namespace
 
 QDate dateWord(const QString &word)
@@ -90,12 +101,13 @@ bool isHelp(const QString &word)
 int runCommand(const Command &command, const QStringList &arguments)
 {
     const QString usage = u"Kullanım: "_s + QString::fromUtf16(command.usage);
-    if (arguments.size() == 1 && isHelp(arguments.first())) {
-        printLine(usage);
-        return 0;
-    }
+    surviveClosedPipes();
     try {
-        return command.run(arguments);
+        if (arguments.size() == 1 && isHelp(arguments.first())) {
+            printLine(usage);
+            return refuseLostOutput(0);
+        }
+        return refuseLostOutput(command.run(arguments));
     } catch (const WrongUsage &) {
         printError(usage);
         return exitWrongUsage;
@@ -103,6 +115,18 @@ int runCommand(const Command &command, const QStringList &arguments)
         printError(QString::fromUtf8(error.what()));
         return exitRefused;
     }
+}
+
+bool outputStands()
+{
+    return std::ferror(stdout) == 0;
+}
+
+int printUsage()
+{
+    surviveClosedPipes();
+    printLine(usageText());
+    return refuseLostOutput(0);
 }
 
 void printLine(const QString &line)

@@ -37,6 +37,10 @@ int runCommand(const Command &command, const QStringList &arguments);
 
 /// A line on standard output or standard error, as UTF-8.
 void printLine(const QString &line);
+/// Whether all that was printed got somewhere, as far as is known yet.
+bool outputStands();
+/// The usage of all commands on standard output; returns the exit code.
+int printUsage();
 void printError(const QString &line);
 
 int aktarCommand(const QStringList &arguments);

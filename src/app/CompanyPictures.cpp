@@ -1,6 +1,7 @@
 #include "CompanyPictures.h"
 
 #include "LegacyPath.h"
+#include "OutputPlace.h"
 #include "ReadableDatabase.h"
 #include "RegistryPaths.h"
 #include "RegistryStore.h"
@@ -19,7 +20,7 @@ void requirePictureFolder(const QString &folder)
 
 QString pictureFolderOf(const QString &database)
 {
-    const QFileInfo wanted(database);
+    const QFileInfo wanted(writtenPath(database));
     for (const QString &name : {u"sirket.kuyum"_s, u"sirket.mdb"_s}) {
         const QString registry = wanted.absoluteDir().filePath(name);
         if (!QFileInfo::exists(registry))

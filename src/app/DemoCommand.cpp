@@ -1,5 +1,6 @@
 #include "CommandLine.h"
 #include "Demo.h"
+#include "OutputPlace.h"
 
 #include <QCommandLineParser>
 
@@ -20,7 +21,7 @@ int demoCommand(const QStringList &arguments)
         scale > largestDemoScale)
         throw WrongUsage();
 
-    makeDemo(folders.first(), scale, printLine);
+    makeDemo(writtenPath(folders.first()), scale, printLine);
     printLine(
         u"Örnek şirket hazır: kuyum --sirket \"%1/database/sirket.kuyum\""_s.arg(folders.first()));
     printLine(u"Kullanıcı: Admin, şifre: 1234"_s);

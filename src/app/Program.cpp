@@ -8,6 +8,7 @@
 #include "Guarded.h"
 #include "MenuTable.h"
 #include "Oturum.h"
+#include "OutputPlace.h"
 #include "RegistryPaths.h"
 #include "ScreenServices.h"
 #include "SingleInstance.h"
@@ -83,7 +84,8 @@ std::optional<QString> registryOf(const QStringList &arguments)
         return RegistryPaths::defaultRegistryFile();
     if (parser.value(sirket).isEmpty())
         return std::nullopt;
-    return QFileInfo(QDir::fromNativeSeparators(parser.value(sirket))).absoluteFilePath();
+    return QFileInfo(QDir::fromNativeSeparators(writtenPath(parser.value(sirket))))
+        .absoluteFilePath();
 }
 
 int runSession(QApplication &application, Messages &messages, const QString &registry)

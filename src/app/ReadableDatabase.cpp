@@ -1,6 +1,7 @@
 #include "ReadableDatabase.h"
 
 #include "LegacyPath.h"
+#include "OutputPlace.h"
 #include "Schema.h"
 #include "TakeOver.h"
 
@@ -9,13 +10,14 @@ using namespace Qt::StringLiterals;
 ReadableDatabase openForReading(const QString &path)
 {
     ReadableDatabase result;
-    QString file = path;
+    const QString source = writtenPath(path);
+    QString file = source;
     if (isLegacyPath(path)) {
         result.folder = std::make_unique<QTemporaryDir>();
         if (!result.folder->isValid())
             throw DatabaseError(u"Geçici klasör açılamadı: "_s + result.folder->errorString());
         file = result.folder->filePath(u"okunan.kuyum"_s);
-        TakeOver(path, file).run();
+        TakeOver(source, file).run();
     }
     result.db = Database::open(file, Database::Access::ReadOnly);
     if (result.db->schemaVersion() > currentSchemaVersion) {

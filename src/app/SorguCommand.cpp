@@ -11,7 +11,7 @@ int sorguCommand(const QStringList &arguments)
     const ReadableDatabase db = openForReading(arguments[0]);
     Recordset rows = db->query(arguments[1]);
     printLine(csvHeader(rows));
-    while (rows.next())
+    while (outputStands() && rows.next())
         printLine(csvRow(rows));
     return 0;
 }

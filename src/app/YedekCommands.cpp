@@ -3,9 +3,9 @@
 #include "Database.h"
 #include "DatabaseCheck.h"
 #include "LegacyPath.h"
+#include "OutputPlace.h"
 #include "ReadableDatabase.h"
 #include "Schema.h"
-#include "SingleInstance.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -28,8 +28,9 @@ int yedekleCommand(const QStringList &arguments)
 {
     if (arguments.size() != 1)
         throw WrongUsage();
-    refuseLegacy(arguments[0]);
-    const std::unique_ptr<Database> db = Database::open(arguments[0], Database::Access::ReadOnly);
+    const QString database = writtenPath(arguments[0]);
+    refuseLegacy(database);
+    const std::unique_ptr<Database> db = Database::open(database, Database::Access::ReadOnly);
     if (!isCompany(*db))
         throw DatabaseError(u"Bu dosya bir şirketin veri tabanı değil: "_s + arguments[0]);
     const QString backup = makeBackup(*db, BackupKind::Manual);
@@ -48,17 +49,14 @@ int geriyukleCommand(const QStringList &arguments)
     const bool withoutDigest = arguments.value(2) == "--ozetsiz"_L1;
     if (arguments.size() != (withoutDigest ? 3 : 2))
         throw WrongUsage();
-    refuseLegacy(arguments[0]);
-    // An idle program locks nothing in the file, and what it saved later would
-    // go into the replaced one. Meanwhile none can be started.
-    const SingleInstance instance;
-    if (instance.otherCopyRuns())
-        throw DatabaseError(u"Program açık. Önce programı kapatın, sonra geri yükleyin."_s);
-    if (!withoutDigest && QFileInfo(arguments[1]).isFile() && !hasDigest(arguments[1]))
+    const QString database = writtenPath(arguments[0]);
+    const QString backup = writtenPath(arguments[1]);
+    refuseLegacy(database);
+    if (!withoutDigest && QFileInfo(backup).isFile() && !hasDigest(backup))
         throw DatabaseError(
             u"Bu yedeğin yanında özeti (.sha256) yok; alındığından beri değişmediği "
             "bilinemez. Yine de geri yüklemek için sona --ozetsiz yazın."_s);
-    const QString kept = restoreBackup(arguments[0], arguments[1]);
+    const QString kept = restoreBackup(database, backup);
     printLine(u"Yedek geri yüklendi: "_s + QDir::toNativeSeparators(arguments[0]));
     if (!kept.isEmpty())
         printLine(u"Önceki dosya burada: "_s + QDir::toNativeSeparators(kept));
@@ -74,5 +72,5 @@ int denetleCommand(const QStringList &arguments)
     const DatabaseCheck check = checkDatabase(*db);
     for (const QString &line : checkReport(check))
         printLine(line);
-    return check.faults.isEmpty() ? 0 : exitRefused;
+    return check.isSound() ? 0 : exitRefused;
 }

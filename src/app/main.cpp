@@ -28,8 +28,7 @@ int main(int argc, char **argv)
         return runCommand(*command, arguments.mid(1));
     }
     if (isHelp(word)) {
-        printLine(usageText());
-        return 0;
+        return printUsage();
     }
     if (!word.isEmpty() && !word.startsWith(u'-')) {
         printError(usageText());

@@ -1,20 +1,20 @@
 #include "WholeFile.h"
 
+#include "OutputPlace.h"
+
 #include <QBuffer>
 #include <QDir>
-#include <QFileInfo>
 #include <QSaveFile>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
-WholeFile::WholeFile(const QString &kind, const QString &path) : m_kind(kind), m_path(path)
+WholeFile::WholeFile(const QString &kind, const QString &path, Readers readers)
+    : m_kind(kind), m_path(path), m_readers(readers)
 {
-    const QFileInfo place(path);
-    if (place.isDir())
-        refuse(u"Bu bir klasör."_s);
-    if (!place.dir().exists())
-        refuse(u"Klasör bulunamadı."_s);
+    const QString refusal = outputRefusal(path);
+    if (!refusal.isEmpty())
+        refuse(refusal);
 }
 
 void WholeFile::write(const QByteArray &bytes) const
@@ -28,9 +28,15 @@ void WholeFile::write(const QByteArray &bytes) const
 void WholeFile::write(QIODevice &source, const std::function<void(qint64)> &written) const
 {
     constexpr qint64 block = 1 << 20;
-    QSaveFile file(m_path);
+    // Laying out a large report takes its time.
+    const QString refusal = outputRefusal(m_path);
+    if (!refusal.isEmpty())
+        refuse(refusal);
+    QSaveFile file(resolvedPlace(m_path));
     if (!file.open(QIODevice::WriteOnly))
         refuse(u"Buraya yazılamıyor; dosya korunuyor olabilir."_s);
+    if (m_readers == Readers::OwnerOnly)
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     while (!source.atEnd()) {
         const QByteArray bytes = source.read(block);
         if (bytes.isEmpty() || file.write(bytes) != bytes.size())

@@ -11,9 +11,14 @@ class QIODevice;
 class WholeFile
 {
 public:
-    /// The kind is named where writing fails ("PDF"). Refuses a folder, and a
-    /// place in a folder that is not there.
-    WholeFile(const QString &kind, const QString &path);
+    enum class Readers {
+        AsUsual,  ///< who may read it is the system's custom
+        OwnerOnly ///< for what holds a company's data
+    };
+
+    /// The kind is named where writing fails ("PDF"). Refuses what
+    /// outputRefusal() does; a link is followed.
+    WholeFile(const QString &kind, const QString &path, Readers readers = Readers::AsUsual);
 
     void write(const QByteArray &bytes) const;
     /// Writes all that the open device still has. Told how many bytes are
@@ -26,4 +31,5 @@ public:
 private:
     QString m_kind;
     QString m_path;
+    Readers m_readers;
 };

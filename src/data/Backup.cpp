@@ -78,6 +78,8 @@ QMap<QString, qint64> copyDatabase(const Database &db, const QString &part, cons
     const QMap<QString, qint64> rows = rowCounts(db.engine());
     const SqliteEngine target(part, SqliteEngine::Mode::Create);
     copyPages(db.engine(), target, stage);
+    // One single file, also of a database that another program gave a log.
+    target.run(u"PRAGMA journal_mode = DELETE"_s);
     return rows;
 }
 
@@ -104,7 +106,8 @@ void proveCopy(const Database &db, const QString &part, const QMap<QString, qint
 
 void removePart(const QString &part)
 {
-    QFile::remove(part + u"-journal"_s);
+    for (const QString &ending : {u"-journal"_s, u"-wal"_s, u"-shm"_s})
+        QFile::remove(part + ending);
     QFile::remove(part);
 }
 

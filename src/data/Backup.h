@@ -37,7 +37,8 @@ std::optional<BackupFile> newestGoodBackup(const QString &database,
                                            const WorkProgress &progress = {});
 
 /// Puts the backup in the place of the database, which nobody may have open
-/// (this process neither). The backup is checked first, and what it replaces
+/// (this process neither, see CompanyLock), and which is a company or nothing.
+/// A link is followed. The backup is checked first, and what it replaces
 /// is kept: a sound database as a backup, a damaged one byte by byte. At every
 /// moment the database is wholly the old or wholly the restored one. Returns
 /// where the replaced one was kept; empty when there was none.

@@ -1,6 +1,8 @@
 #include "Backup.h"
 #include "BackupCopy.h"
+#include "CompanyLock.h"
 #include "Database.h"
+#include "OutputPlace.h"
 #include "Schema.h"
 #include "SqliteEngine.h"
 #include "WholeFile.h"
@@ -26,7 +28,8 @@ void copyFile(const QString &source, const QString &target, const WorkStage &sta
         throw DatabaseError(u"Dosya okunamıyor: "_s + QDir::toNativeSeparators(source));
     const auto size = double(qMax<qint64>(1, file.size()));
     try {
-        WholeFile(u"Veri tabanı"_s, target).write(file, [&](qint64 written) {
+        const WholeFile copy(u"Veri tabanı"_s, target, WholeFile::Readers::OwnerOnly);
+        copy.write(file, [&](qint64 written) {
             if (!stage.tell(qMin(1.0, double(written) / size)))
                 throw BackupCancelled();
         });
@@ -35,6 +38,23 @@ void copyFile(const QString &source, const QString &target, const WorkStage &sta
     } catch (const std::runtime_error &error) {
         throw DatabaseError(QString::fromUtf8(error.what()));
     }
+}
+
+/// A backup comes into the place of a company only, or where there is nothing.
+void requireReplaceable(const QString &database)
+{
+    const auto refuse = [&database](const QString &reason) {
+        throw DatabaseError(u"Buraya yedek geri yüklenemez: %1\n%2"_s.arg(
+            QDir::toNativeSeparators(database), reason));
+    };
+    const QString refusal = placeRefusal(database);
+    if (!refusal.isEmpty())
+        refuse(refusal);
+    // One that is too damaged to be known is known by its backups.
+    if (QFileInfo::exists(database) && !holdsDatabase(database) && backups(database).isEmpty())
+        refuse(
+            u"Bu dosya bir şirketin veri tabanı değil. Yerine yedek konacaksa önce başka bir yere "
+            "taşıyın."_s);
 }
 
 /// Keeps a damaged database as it is, with the journal that may belong to it.
@@ -66,6 +86,11 @@ QString keepCurrent(const BackupPlace &place, const QString &database, const Wor
             throw DatabaseError(u"Bu, şirketlerin kayıt dosyası; yerine bir şirketin yedeği "
                                 "konamaz: "_s +
                                 QDir::toNativeSeparators(database));
+        // One that has lost a table is a company still.
+        if (!db->hasTable(u"SiparisB"_s) && !db->hasTable(u"SiparisD"_s))
+            throw DatabaseError(
+                u"Bu dosya bir şirketin veri tabanı değil; yerine yedek konamaz: "_s +
+                QDir::toNativeSeparators(database));
         // A save is short: who holds the file for longer works with it.
         db->engine().run(u"PRAGMA busy_timeout = 500"_s);
         db->engine().run(u"BEGIN EXCLUSIVE"_s);
@@ -87,6 +112,19 @@ void removeLeftovers(const QString &part)
         if (name.startsWith(file.fileName()))
             folder.remove(name);
     }
+}
+
+/// What comes into the place belongs to who put it there.
+void refuseToLockOut(const QString &part, const QString &database)
+{
+    constexpr QFile::Permissions others =
+        QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther;
+    const QFileInfo present(database);
+    if (present.exists() && present.ownerId() != QFileInfo(part).ownerId() &&
+        !(QFile::permissions(database) & others))
+        throw DatabaseError(
+            u"Bu veri tabanını yalnız sahibi (%1) açabilir; geri yüklemeyi o kullanıcıyla "
+            "yapın: %2"_s.arg(present.owner(), QDir::toNativeSeparators(database)));
 }
 
 void putInPlace(const QString &part, const QString &database)
@@ -116,15 +154,20 @@ void putInPlace(const QString &part, const QString &database)
 QString restoreBackup(const QString &database, const QString &backup, const WorkProgress &progress)
 {
     const WorkStage stage(progress, 0, 1000);
+    requireReplaceable(database);
     const BackupPlace place(database);
-    const QString part = QFileInfo(database).absoluteFilePath() + u".geriyukle"_s;
+    const CompanyLock alone(database, CompanyLock::Kind::Alone);
+    // A link to a company stays one: the file that it leads to is replaced.
+    const QString file = resolvedPlace(database);
+    const QString part = file + u".geriyukle"_s;
     removeLeftovers(part);
     try {
         copyFile(backup, part, stage.part(0, 0.2));
+        refuseToLockOut(part, file);
         // What comes into the place is what is checked.
         checkBackupFile(part, backup, stage.part(0.2, 0.5));
-        const QString kept = keepCurrent(place, database, stage.part(0.5, 1));
-        putInPlace(part, database);
+        const QString kept = keepCurrent(place, file, stage.part(0.5, 1));
+        putInPlace(part, file);
         return kept;
     } catch (...) {
         removeLeftovers(part);

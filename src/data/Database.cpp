@@ -1,5 +1,6 @@
 #include "Database.h"
 
+#include "CompanyLock.h"
 #include "Dialect.h"
 #include "SqliteEngine.h"
 #include "TurkishText.h"
@@ -54,6 +55,11 @@ Database::Database(const QString &path, std::unique_ptr<SqliteEngine> engine)
 }
 
 Database::~Database() = default;
+
+void Database::keep(std::unique_ptr<CompanyLock> lock)
+{
+    m_lock = std::move(lock);
+}
 
 std::unique_ptr<Database> Database::open(const QString &path, Access access)
 {

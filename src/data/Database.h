@@ -8,6 +8,7 @@
 #include <memory>
 #include <QString>
 
+class CompanyLock;
 class SqliteEngine;
 
 /// An open database file: a company or the registry. All SQL is in the
@@ -52,11 +53,15 @@ public:
     int schemaVersion() const;
     void setSchemaVersion(int version);
 
+    /// Holds the lock for as long as the file is open.
+    void keep(std::unique_ptr<CompanyLock> lock);
+
     SqliteEngine &engine() const { return *m_engine; }
 
 private:
     Database(const QString &path, std::unique_ptr<SqliteEngine> engine);
 
     QString m_path;
+    std::unique_ptr<CompanyLock> m_lock; ///< let go of after the file
     std::unique_ptr<SqliteEngine> m_engine;
 };

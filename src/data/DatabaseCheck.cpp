@@ -1,8 +1,11 @@
 #include "DatabaseCheck.h"
 
+#include "Counters.h"
 #include "Database.h"
 #include "Dialect.h"
 #include "Integrity.h"
+#include "OpeningNotes.h"
+#include "References.h"
 #include "Schema.h"
 #include "SqliteEngine.h"
 
@@ -10,63 +13,21 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Codes of one table that stand for rows of another.
-struct Reference
-{
-    QString table;
-    QStringList fields;
-    QString target;
-    QStringList keys;
-    QString condition = {}; ///< which rows refer to this target
-};
-
-/// 0 and the empty text stand for no code in every field here.
-const QList<Reference> &references()
-{
-    static const QList<Reference> all = {
-        {u"SiparisB"_s, {u"SipFirkod"_s}, u"Firma"_s, {u"Firkod"_s}},
-        {u"SiparisB"_s, {u"Ayar"_s}, u"Ayar"_s, {u"Milyem"_s}},
-        {u"SiparisD"_s, {u"SipnumD"_s}, u"SiparisB"_s, {u"Sipnum"_s}},
-        {u"SiparisD"_s, {u"SipUruntip"_s}, u"UrunTipi"_s, {u"TipID"_s}},
-        {u"SiparisD"_s, {u"Siprenk"_s}, u"Renkler"_s, {u"RenkNo"_s}},
-        {u"SiparisD"_s, {u"SipModel"_s, u"SipUruntip"_s}, u"Model"_s, {u"Model"_s, u"M_Uruntip"_s}},
-        {u"SiparisD"_s, {u"Drm1"_s}, u"Durum1"_s, {u"d1_tanim"_s}},
-        {u"SiparisD"_s, {u"Drm2"_s}, u"Durum2"_s, {u"d2_tanim"_s}},
-        {u"Model"_s, {u"M_Uruntip"_s}, u"UrunTipi"_s, {u"TipID"_s}},
-        {u"Model"_s, {u"M_Kod"_s}, u"Tas"_s, {u"TasID"_s}, u"a.M_Tip = 0"_s},
-        {u"Model"_s, {u"M_Kod"_s}, u"Kalip"_s, {u"KalipID"_s}, u"a.M_Tip = 1"_s},
-        {u"Katalog"_s, {u"katno1"_s}, u"Model"_s, {u"Model_ID"_s}},
-        {u"KatalogSira"_s, {u"KatAdi"_s}, u"Katalog"_s, {u"KatAdi"_s}},
-        {u"BarkodtipAlanlar"_s, {u"btipno"_s}, u"Barkodtip"_s, {u"BarkodTip_ID"_s}},
-        {u"Barkodtipozel"_s, {u"btipno"_s}, u"Barkodtip"_s, {u"BarkodTip_ID"_s}},
-        {u"DovizD"_s, {u"Dovcinsi"_s}, u"DovizB"_s, {u"Dovcinsi"_s}},
-        {u"MenuKisit"_s, {u"MK_menuid"_s}, u"Menuler"_s, {u"m_ID"_s}},
-        {u"MenuKisit"_s, {u"MK_userid"_s}, u"Users"_s, {u"User_ID"_s}},
-        {u"Firma"_s, {u"UlkeID"_s}, u"Ulkeler"_s, {u"ID"_s}},
-    };
-    return all;
-}
-
 /// The codes without their row, and how many rows bear each, the most frequent
 /// ones first.
 QString danglingSql(const Reference &reference)
 {
     QStringList codes;
-    QStringList conditions;
     QStringList joins;
     for (qsizetype i = 0; i < reference.fields.size(); ++i) {
         const QString code = u"a."_s + quotedName(reference.fields[i]);
         codes.append(code);
-        conditions.append(
-            u"%1 IS NOT NULL AND %1 <> '' AND (%1 <> 0 OR typeof(%1) = 'text')"_s.arg(code));
         joins.append(u"b.%1 = %2"_s.arg(quotedName(reference.keys[i]), code));
     }
-    if (!reference.condition.isEmpty())
-        conditions.append(reference.condition);
     const QString list = codes.join(u", "_s);
     return u"SELECT count(*), %1 FROM %2 a WHERE %3 AND NOT EXISTS (SELECT 1 FROM %4 b WHERE %5) "
            "GROUP BY %1 ORDER BY 1 DESC, %1"_s.arg(
-               list, quotedName(reference.table), conditions.join(u" AND "_s),
+               list, quotedName(reference.table), reference.bearsCode(),
                quotedName(reference.target), joins.join(u" AND "_s));
 }
 
@@ -130,7 +91,10 @@ DatabaseCheck checkDatabase(const Database &db)
         if (!db.hasTable(table.name))
             check.missingTables.append(table.name);
     }
-    for (const Reference &reference : references()) {
+    check.isOlder = db.schemaVersion() < currentSchemaVersion;
+    check.missingCounters = missingCounters(db, companyTables());
+    check.notes = openingNotes(db);
+    for (const Reference &reference : companyReferences()) {
         if (!db.hasTable(reference.table) || !db.hasTable(reference.target))
             continue;
         const DatabaseCheck::Dangling found = findDangling(db, reference);
@@ -156,7 +120,11 @@ QStringList checkReport(const DatabaseCheck &check)
         return lines;
 
     if (!check.missingTables.isEmpty())
-        section(u"Eksik tablolar"_s, check.missingTables);
+        section(u"EKSİK TABLOLAR"_s, check.missingTables);
+    if (!check.missingCounters.isEmpty())
+        section(u"SAYACI OLMAYAN TABLOLAR"_s, check.missingCounters);
+    if (!check.notes.isEmpty())
+        section(u"Aktarılırken ya da açılırken görülenler"_s, check.notes);
     QStringList entries;
     for (auto table = check.rows.begin(); table != check.rows.end(); ++table)
         entries.append(u"%1 %2"_s.arg(table.key(), -20).arg(table.value(), 10));

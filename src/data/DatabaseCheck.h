@@ -25,9 +25,19 @@ struct DatabaseCheck
 
     QStringList faults; ///< what the engine finds damaged; empty: sound
     QStringList missingTables;
-    QMap<QString, qint64> rows; ///< by table
+    bool isOlder = false;        ///< what is missing is added when it is opened for work
+    QStringList missingCounters; ///< as "SiparisD.Dotosayi"
+    QStringList notes;           ///< what was told when the company was opened
+    QMap<QString, qint64> rows;  ///< by table
     QList<Dangling> dangling;
     QList<Empty> empties;
+
+    /// Whether the file can be worked with as it is.
+    bool isSound() const
+    {
+        return faults.isEmpty() && (missingTables.isEmpty() || isOlder) &&
+               missingCounters.isEmpty();
+    }
 };
 
 /// Reads the whole database; writes nothing. Throws DatabaseError.

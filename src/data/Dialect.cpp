@@ -21,7 +21,8 @@ QString functionName(const QString &name)
     }
     if (name.compare("Nz"_L1, Qt::CaseInsensitive) == 0)
         return u"ifnull"_s;
-    return name;
+    // Brackets can hold anything, and what follows them makes it no function.
+    return quotedName(name);
 }
 
 bool givesText(const QString &function)

@@ -1,9 +1,12 @@
 #include "Schema.h"
 
+#include "CompanyLock.h"
+#include "Counters.h"
 #include "Database.h"
 #include "TurkishText.h"
 
 #include <algorithm>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -182,9 +185,12 @@ void requireOurs(const QString &path, const QStringList &tables, const QString &
 std::unique_ptr<Database> openCurrent(const QString &path, const QList<TableDef> &tables)
 {
     std::unique_ptr<Database> db = Database::open(path);
-    if (db->schemaVersion() < currentSchemaVersion) {
+    // A file that an earlier version took over can lack a counter, and a save
+    // would take its rows for one.
+    if (db->schemaVersion() < currentSchemaVersion || !missingCounters(*db, tables).isEmpty()) {
         Transaction transaction(*db);
         completeTables(*db, tables);
+        completeCounters(*db, tables);
         db->setSchemaVersion(currentSchemaVersion);
         transaction.commit();
     }
@@ -292,9 +298,15 @@ void completeTables(Database &db, const QList<TableDef> &tables)
 
 std::unique_ptr<Database> openCompany(const QString &path)
 {
+    // Before the first look: whoever replaces the file has it alone.
+    std::unique_ptr<CompanyLock> lock;
+    if (QFileInfo(path).isFile())
+        lock = std::make_unique<CompanyLock>(path, CompanyLock::Kind::Shared);
     requireOurs(path, {u"Users"_s, u"SiparisB"_s, u"SiparisD"_s},
                 u"Bu dosya bir şirketin veri tabanı değil: "_s);
-    return openCurrent(path, companyTables());
+    std::unique_ptr<Database> db = openCurrent(path, companyTables());
+    db->keep(std::move(lock));
+    return db;
 }
 
 std::unique_ptr<Database> openRegistry(const QString &path)

@@ -37,7 +37,8 @@ IndexDef freelyNamed(IndexDef index, const TableDef &table);
 
 /// Opens a company for work: steps an older file up to the current layout,
 /// refuses a newer one, and one that is no company, with a DatabaseError that
-/// says so and the file as it was.
+/// says so and the file as it was. As long as it is open no other program can
+/// put another file in its place (see CompanyLock).
 std::unique_ptr<Database> openCompany(const QString &path);
 std::unique_ptr<Database> openRegistry(const QString &path);
 

@@ -34,6 +34,9 @@ public:
 
     QList<SqlToken> tokens()
     {
+        // The engine would take the text to end there.
+        if (m_sql.contains(QChar::Null))
+            refuseSql(u"Geçersiz karakter"_s, m_sql);
         QList<SqlToken> result;
         for (skipBlanks(); m_at < m_sql.size(); skipBlanks()) {
             const SqlToken token = next();
@@ -76,6 +79,10 @@ private:
                 return {SqlToken::Kind::Symbol, pair.toString()};
             }
         }
+        // Whatever else the engine knows, quotes of its own among it, would be read
+        // by it in another way than here.
+        if (!QStringView(u"()*,./+-=<>&;%").contains(c))
+            refuseSql(u"Bilinmeyen işaret"_s, m_sql);
         ++m_at;
         return {SqlToken::Kind::Symbol, QString(c)};
     }

@@ -90,6 +90,41 @@ void refuseWhatHoldsNothing(const QString &path)
                             DatabaseError::Cause::FileDamaged);
 }
 
+/// What the engine keeps beside a file later has the file's own permissions.
+void makePrivateFile(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner))
+        throw DatabaseError(u"Dosya açılamıyor: %1 (%2)"_s.arg(path, file.errorString()),
+                            DatabaseError::Cause::Other, DatabaseError::cannotOpen);
+}
+
+/// Whether another program has given the file a write-ahead log. Read through
+/// the engine's own handle: a second one, closed, would take the first one's
+/// locks with it.
+bool hasWriteAheadLog(sqlite3 *database)
+{
+    constexpr qint64 place = 18; // of the format's version in the header
+    constexpr char logVersion = 2;
+    sqlite3_file *file = nullptr;
+    char version = 0;
+    return sqlite3_file_control(database, "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK &&
+           file->pMethods != nullptr &&
+           file->pMethods->xRead(file, &version, 1, place) == SQLITE_OK && version == logVersion;
+}
+
+/// Only a connection that may write removes the log when it closes.
+void openToRead(QSqlDatabase &database)
+{
+    database.setConnectOptions(u"QSQLITE_OPEN_READONLY"_s);
+    if (!database.open() || !hasWriteAheadLog(handleOf(database)))
+        return;
+    database.close();
+    database.setConnectOptions();
+    if (database.open())
+        sqlite3_exec(handleOf(database), "PRAGMA query_only = ON", nullptr, nullptr, nullptr);
+}
+
 QString uniqueConnectionName()
 {
     static QAtomicInt count;
@@ -102,15 +137,20 @@ SqliteEngine::SqliteEngine(const QString &path, Mode mode)
     : m_connection(uniqueConnectionName()),
       m_database(QSqlDatabase::addDatabase(u"QSQLITE"_s, m_connection))
 {
-    m_database.setDatabaseName(path);
-    if (mode == Mode::ReadOnly)
-        m_database.setConnectOptions(u"QSQLITE_OPEN_READONLY"_s);
+    // Absolute, since the engine takes ":memory:" and "file:..." for words of its own.
+    m_database.setDatabaseName(QFileInfo(path).absoluteFilePath());
     try {
-        if (mode != Mode::Create)
+        if (mode == Mode::Create)
+            makePrivateFile(path);
+        else
             refuseWhatHoldsNothing(path);
-        if (mode == Mode::ReadOnly)
+        if (mode == Mode::ReadOnly) {
             takeBackCutOffSave(path);
-        if (!m_database.open())
+            openToRead(m_database);
+        } else {
+            m_database.open();
+        }
+        if (!m_database.isOpen())
             fail(m_database.lastError());
         registerSqliteFunctions(handleOf(m_database));
         // A misspelt field must be an error, never a text of that spelling.

@@ -149,26 +149,34 @@ void trim(sqlite3_context *context, int, sqlite3_value **arguments)
         giveText(context, textOf(arguments[0]).trimmed());
 }
 
-/// The legacy engine's Like: * any text, ? one character, # one digit.
+/// The legacy engine's Like: * any text, ? one character, # one digit. Only the
+/// last star is ever tried again: what stands before it fits as it stands.
 bool matches(QStringView pattern, QStringView text)
 {
-    if (pattern.isEmpty())
-        return text.isEmpty();
-    const QChar first = pattern.front();
-    const QStringView rest = pattern.sliced(1);
-    if (first == u'*') {
-        for (qsizetype i = 0; i <= text.size(); ++i) {
-            if (matches(rest, text.sliced(i)))
-                return true;
+    const auto fits = [](QChar wanted, QChar c) {
+        return wanted == u'?' || (wanted == u'#' ? c.isDigit() : wanted == c);
+    };
+    qsizetype p = 0;
+    qsizetype t = 0;
+    qsizetype afterStar = -1;
+    qsizetype starTakesTo = 0;
+    while (t < text.size()) {
+        if (p < pattern.size() && pattern[p] == u'*') {
+            afterStar = ++p;
+            starTakesTo = t;
+        } else if (p < pattern.size() && fits(pattern[p], text[t])) {
+            ++p;
+            ++t;
+        } else if (afterStar >= 0) {
+            p = afterStar;
+            t = ++starTakesTo;
+        } else {
+            return false;
         }
-        return false;
     }
-    if (text.isEmpty())
-        return false;
-    const bool fits = first == u'?'   ? true
-                      : first == u'#' ? text.front().isDigit()
-                                      : first == text.front();
-    return fits && matches(rest, text.sliced(1));
+    while (p < pattern.size() && pattern[p] == u'*')
+        ++p;
+    return p == pattern.size();
 }
 
 void like(sqlite3_context *context, int, sqlite3_value **arguments)

@@ -1,5 +1,7 @@
 #include "TakeOver.h"
 
+#include "LegacyPath.h"
+#include "OutputPlace.h"
 #include "ProcessLock.h"
 #include "TakeOverStepProcess.h"
 #include "TakeOverSteps.h"
@@ -13,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 TakeOver::TakeOver(const QString &source, const QString &target, const QString &program)
     : m_source(QFileInfo(source).absoluteFilePath()),
-      m_target(QFileInfo(target).absoluteFilePath()),
+      m_target(resolvedPlace(target)),
       m_part(m_target + u".aktarim"_s),
       m_program(program.isEmpty() ? QCoreApplication::applicationFilePath() : program)
 {
@@ -47,6 +49,16 @@ void TakeOver::checkTarget() const
         throw DatabaseError(u"Hedef dosya zaten var: "_s + m_target);
     if (!QFileInfo(QFileInfo(m_target).path()).isDir())
         throw DatabaseError(u"Hedef klasör bulunamadı: "_s + QFileInfo(m_target).path());
+    // Opened again, it would be taken for a file that is still to be taken over.
+    if (isLegacyPath(m_target))
+        throw DatabaseError(u"Hedef dosyaya .kuyum ile biten bir ad verin: "_s + m_target);
+    // The engine would play what a lost database left into the new one.
+    for (const QString &ending : {u"-journal"_s, u"-wal"_s}) {
+        if (QFileInfo::exists(m_target + ending))
+            throw DatabaseError(u"Hedefin yanında başka bir veri tabanının yarım kalmış kaydı "
+                                "duruyor: "_s +
+                                m_target + ending);
+    }
 }
 
 void TakeOver::removePart() const

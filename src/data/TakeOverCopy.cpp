@@ -1,4 +1,5 @@
 #include "BulkStatement.h"
+#include "Counters.h"
 #include "Database.h"
 #include "Dialect.h"
 #include "LegacyFile.h"
@@ -29,21 +30,17 @@ bool isWholeNumber(FieldType type)
     return type == FieldType::Long || type == FieldType::Integer || type == FieldType::Byte;
 }
 
-/// The fields by which the database could number this table's rows, the best
-/// one first: what this program relies on, then what the legacy file had.
-QStringList counterCandidates(const TableDef &table, const QList<TableDef> &description)
+/// The field by which the database numbers this table's rows: what this program
+/// relies on, else what the legacy file had. Empty when there is none.
+QString counterOf(const TableDef &table, const QList<TableDef> &description)
 {
-    QStringList names;
     for (const TableDef &known : description) {
-        const FieldDef *counter = sameText(known.name, table.name) ? known.counter() : nullptr;
-        const FieldDef *field = counter != nullptr ? table.field(counter->name) : nullptr;
-        if (field != nullptr && isWholeNumber(field->type))
-            names.append(field->name);
+        if (!sameText(known.name, table.name) || known.counter() == nullptr)
+            continue;
+        const FieldDef *field = table.field(known.counter()->name);
+        return field != nullptr && isWholeNumber(field->type) ? field->name : QString();
     }
-    const FieldDef *own = table.counter();
-    if (own != nullptr && !names.contains(own->name))
-        names.append(own->name);
-    return names;
+    return table.counter() != nullptr ? table.counter()->name : QString();
 }
 
 TableDef withCounter(TableDef table, const QString &counterName)
@@ -94,11 +91,11 @@ bool copyRows(LegacyFile &file, const LegacyTable &source, const TableDef &targe
 void copyTable(LegacyFile &file, const LegacyTable &source, const QList<TableDef> &description,
                Database &db, TakeOverSteps::Reporter &reporter)
 {
-    for (const QString &counter : counterCandidates(source.definition, description)) {
-        if (copyRows(file, source, withCounter(source.definition, counter), db, reporter))
-            return;
-    }
-    // Rows count for more than a counter: without one they all fit.
+    const QString counter = counterOf(source.definition, description);
+    if (!counter.isEmpty() &&
+        copyRows(file, source, withCounter(source.definition, counter), db, reporter))
+        return;
+    // Without a counter they all fit; one that is needed is made afterwards.
     if (!copyRows(file, source, withCounter(source.definition, {}), db, reporter)) {
         throw DatabaseError(
             u"\"%1\" tablosunun kayıtları yazılamadı."_s.arg(source.definition.name));
@@ -159,6 +156,11 @@ void TakeOverSteps::copy(const QString &source, const QString &part, Reporter &r
     const QList<TableDef> &description = descriptionFor(tables);
     for (const LegacyTable &table : tables)
         copyTable(file, table, description, *db, reporter);
+    if (&description == &companyTables()) {
+        reporter.alive({});
+        noteWhatIsMissing(*db);
+        completeCounters(*db, description);
+    }
     makeIndexes(tables, description, *db, reporter);
     completeTables(*db, description);
     writeStamp(*db, stamp);

@@ -1,10 +1,12 @@
 #include "BulkStatement.h"
+#include "Counters.h"
 #include "Database.h"
 #include "Dialect.h"
 #include "LegacyFile.h"
 #include "RowChecksum.h"
 #include "SqliteEngine.h"
 #include "TakeOverSteps.h"
+#include "TurkishText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -24,11 +26,25 @@ RowChecksum checksumOfSource(LegacyFile &file, const LegacyTable &table,
     return checksum;
 }
 
+/// What stood in the source where a row was given a new number.
+void restoreNumber(RawValue &value, const QHash<qint64, std::optional<qint64>> &before)
+{
+    const auto given = before.find(value.integer);
+    if (given == before.end())
+        return;
+    if (given->has_value())
+        value.setInteger(**given);
+    else
+        value.setNull();
+}
+
 RowChecksum checksumOfCopy(Database &db, const TableDef &table, TakeOverSteps::Reporter &reporter)
 {
     QStringList fields;
     for (const FieldDef &field : table.fields)
         fields.append(quotedName(field.name));
+    const QHash<qint64, std::optional<qint64>> before = numbersBefore(db, table.name);
+    const QString counter = before.isEmpty() ? QString() : db.tableDef(table.name).counter()->name;
     RowChecksum checksum;
     BulkStatement rows(db.engine(),
                        u"SELECT %1 FROM %2"_s.arg(fields.join(u','), quotedName(table.name)));
@@ -36,6 +52,8 @@ RowChecksum checksumOfCopy(Database &db, const TableDef &table, TakeOverSteps::R
     while (rows.step()) {
         for (int i = 0; i < int(fields.size()); ++i) {
             rows.column(i, value);
+            if (!before.isEmpty() && sameText(table.fields[i].name, counter))
+                restoreNumber(value, before);
             checksum.add(value);
         }
         checksum.endRow();

@@ -4,6 +4,8 @@
 #include <QByteArray>
 #include <QString>
 
+class Database;
+
 /// The two steps of a take-over, each run in a process of its own, since a
 /// damaged file can end or hang the library that reads it. What they tell goes
 /// as lines over standard output to the process that started them:
@@ -45,9 +47,14 @@ private:
 /// tables, rows, indexes, what the schema has beyond them, the stamp.
 void copy(const QString &source, const QString &part, Reporter &reporter);
 
+/// Notes what the copied company lacks, before it is completed: usual tables,
+/// key fields, the rows that others refer to.
+void noteWhatIsMissing(Database &db);
+
 /// Reads the legacy file again, waits until the part is complete, and compares
-/// every table's rows with the part's. Throws DatabaseError at the first
-/// difference. Reading may run while copy() does: the two share nothing.
+/// every table's rows with the part's; a row that was given a new number counts
+/// with the one it had. Throws DatabaseError at the first difference. Reading may run while copy()
+/// does: the two share nothing.
 void prove(const QString &source, const QString &part, Reporter &reporter);
 
 } // namespace TakeOverSteps

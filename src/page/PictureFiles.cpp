@@ -1,6 +1,7 @@
 #include "PictureFiles.h"
 
 #include "TurkishText.h"
+#include "WholeFile.h"
 
 #include <QBuffer>
 #include <QDirIterator>
@@ -8,7 +9,6 @@
 #include <QImageReader>
 #include <QImageWriter>
 #include <QPainter>
-#include <QSaveFile>
 #include <stdexcept>
 
 using namespace Qt::StringLiterals;
@@ -279,8 +279,5 @@ void savePicture(const QImage &image, const QString &path)
 {
     // In memory first, so that what fails later is the disk and nothing else.
     const QByteArray bytes = jpegBytes(image);
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush() ||
-        !file.commit())
-        refuse(u"Resim kaydedilemedi: "_s + QDir::toNativeSeparators(path), file.errorString());
+    WholeFile(u"Resim"_s, path).write(bytes);
 }

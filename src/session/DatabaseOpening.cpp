@@ -3,6 +3,7 @@
 #include "Integrity.h"
 #include "LegacyPath.h"
 #include "Messages.h"
+#include "OpeningNotes.h"
 #include "TakeOverWindow.h"
 
 #include <QDir>
@@ -29,6 +30,14 @@ std::unique_ptr<Database> openTakenOver(QWidget *parent, Messages &messages, con
                      "çalışmaya devam eder:\n\n%2"_s.arg(QDir::toNativeSeparators(path),
                                                          QDir::toNativeSeparators(openable.path)),
                      MessageIcon::Exclamation, u"Eski dosya değişmiş"_s);
+    }
+    const QStringList notes = untoldNotes(*db);
+    if (!notes.isEmpty()) {
+        messages.say(parent,
+                     u"%1\n\nBu dosyada görülen ve bilmeniz gerekenler:\n\n%2"_s.arg(
+                         QDir::toNativeSeparators(openable.path), notesText(notes)),
+                     MessageIcon::Exclamation, u"Dikkat"_s);
+        markNotesTold(*db);
     }
     return db;
 }

@@ -1,11 +1,14 @@
 #include "EmptyDatabase.h"
 
+#include "CompanyLock.h"
 #include "LegacyPath.h"
 #include "Oturum.h"
+#include "OutputPlace.h"
 #include "RegistryPaths.h"
 #include "RegistryStore.h"
 #include "Schema.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <QDir>
 #include <QFileInfo>
@@ -35,26 +38,17 @@ bool sameFile(const QString &a, const QString &b)
     return !known.isEmpty() && known == QFileInfo(b).canonicalFilePath();
 }
 
-void refuseTaken(const Oturum &oturum, const QString &target)
+/// An empty one that was made here before may go; what somebody entered may not.
+bool hasRows(const QString &path)
 {
-    if (sameFile(target, oturum.Veritabani->path()))
-        throw DatabaseError(u"Bu dosya, çalışılan veri tabanının kendisi; başka bir ad verin."_s);
-    // Opened again, it would be taken for a file of the former program.
-    if (isLegacyPath(target))
-        throw DatabaseError(u"Yeni dosyaya .kuyum ile biten bir ad verin."_s);
-    if (QFileInfo(target).isDir())
-        throw DatabaseError(u"Bu bir klasör: "_s + QDir::toNativeSeparators(target));
-    const QString registryFile = takenOverPath(oturum.kayitYolu);
-    if (sameFile(target, registryFile))
-        throw DatabaseError(u"Bu dosya şirketlerin kayıt dosyası; başka bir ad verin."_s);
-    // Its journal would be taken for the new file's own.
-    for (const QString &beside : {u"-journal"_s, u"-wal"_s}) {
-        if (QFileInfo::exists(target + beside))
-            throw DatabaseError(u"Bu dosya şu anda kullanılıyor ya da son kaydı yarım kalmış; "
-                                "başka bir ad verin."_s);
-    }
-    if (!QFileInfo::exists(registryFile))
-        return;
+    const std::unique_ptr<Database> db = Database::open(path, Database::Access::ReadOnly);
+    const QStringList tables = db->tableNames();
+    return std::any_of(tables.begin(), tables.end(),
+                       [&db](const QString &table) { return db->rowCount(table) > 0; });
+}
+
+void refuseCompanies(const Oturum &oturum, const QString &registryFile, const QString &target)
+{
     const std::unique_ptr<Database> registry =
         Database::open(registryFile, Database::Access::ReadOnly);
     const RegistryPaths paths(oturum.kayitYolu);
@@ -66,6 +60,33 @@ void refuseTaken(const Oturum &oturum, const QString &target)
                     company.Srkadi));
         }
     }
+}
+
+void refuseTaken(const Oturum &oturum, const QString &target)
+{
+    if (sameFile(target, oturum.Veritabani->path()))
+        throw DatabaseError(u"Bu dosya, çalışılan veri tabanının kendisi; başka bir ad verin."_s);
+    // Opened again, it would be taken for a file of the former program.
+    if (isLegacyPath(target))
+        throw DatabaseError(u"Yeni dosyaya .kuyum ile biten bir ad verin."_s);
+    const QString refusal = placeRefusal(target);
+    if (!refusal.isEmpty())
+        throw DatabaseError(refusal + u'\n' + QDir::toNativeSeparators(target),
+                            DatabaseError::Cause::FileMissing, DatabaseError::cannotOpen);
+    const QString registryFile = takenOverPath(oturum.kayitYolu);
+    if (sameFile(target, registryFile))
+        throw DatabaseError(u"Bu dosya şirketlerin kayıt dosyası; başka bir ad verin."_s);
+    // Its journal would be taken for the new file's own.
+    for (const QString &beside : {u"-journal"_s, u"-wal"_s}) {
+        if (QFileInfo::exists(target + beside))
+            throw DatabaseError(u"Bu dosya şu anda kullanılıyor ya da son kaydı yarım kalmış; "
+                                "başka bir ad verin."_s);
+    }
+    if (QFileInfo::exists(registryFile))
+        refuseCompanies(oturum, registryFile, target);
+    if (holdsDatabase(target) && hasRows(target))
+        throw DatabaseError(
+            u"Bu dosya içinde kayıtlar olan bir veri tabanı; başka bir ad verin."_s);
 }
 
 void makeTables(const QString &path, const Plan &plan, const MaintenanceProgress &progress)
@@ -134,9 +155,13 @@ void build(const QString &target, const Plan &plan, const MaintenanceProgress &p
 
 } // namespace
 
-void makeEmptyDatabase(Oturum &oturum, const QString &target, const MaintenanceProgress &progress)
+void makeEmptyDatabase(Oturum &oturum, const QString &place, const MaintenanceProgress &progress)
 {
+    const QString target = resolvedPlace(place);
     refuseTaken(oturum, target);
+    std::unique_ptr<CompanyLock> alone;
+    if (QFileInfo::exists(target))
+        alone = std::make_unique<CompanyLock>(target, CompanyLock::Kind::Alone);
     const QString company = oturum.Veritabani->path();
     const Plan plan = planOf(*oturum.Veritabani);
     const auto reopen = [&] {

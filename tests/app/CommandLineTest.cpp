@@ -1,8 +1,8 @@
 #include "BarcodeReader.h"
+#include "FileBytes.h"
 #include "PdfReader.h"
 #include "SampleCompany.h"
 #include "Schema.h"
-#include "SingleInstance.h"
 #include "TestRegistry.h"
 
 #include <QProcess>
@@ -368,13 +368,19 @@ private Q_SLOTS:
         const QByteArray before = fileBytes();
         openCompany(m_database)->execute(u"Delete From Firma"_s);
 
-        // The program is open.
+        // A program has it open, under whichever name.
+        const QString link = m_folder.filePath(u"baglanti.kuyum"_s);
+        const QString lock = m_folder.filePath(u".ornek.kuyum.acik"_s);
+        QVERIFY(QFile::link(m_database, link));
         {
-            const SingleInstance running;
+            const std::unique_ptr<Database> open = openCompany(link);
             const Outcome refused = kuyum({u"geriyukle"_s, m_database, backup});
             QCOMPARE(refused.exitCode, 1);
-            QVERIFY2(refused.error.startsWith(u"Program açık."_s), qPrintable(refused.error));
+            QVERIFY2(refused.error.contains(u"önce açık olduğu her yerde"_s),
+                     qPrintable(refused.error));
+            QVERIFY(QFile::exists(lock));
         }
+        QVERIFY(!QFile::exists(lock));
         const QString bare = m_folder.filePath(u"tasinan.kuyum"_s);
         QVERIFY(QFile::copy(backup, bare));
         const Outcome unsure = kuyum({u"geriyukle"_s, m_database, bare});
@@ -391,13 +397,79 @@ private Q_SLOTS:
         QCOMPARE(refused.exitCode, 1);
         QVERIFY2(refused.error.contains(u"değişmiş"_s), qPrintable(refused.error));
 
-        const Outcome restored = kuyum({u"geriyukle"_s, m_database, backup});
+        // Nothing but a company is replaced, and a link stays one.
+        const QString notes = m_folder.filePath(u"notlar.txt"_s);
+        writeFile(notes, "not");
+        QCOMPARE(kuyum({u"geriyukle"_s, notes, backup}).exitCode, 1);
+        QCOMPARE(::fileBytes(notes), "not");
+        const Outcome restored = kuyum({u"geriyukle"_s, link, backup});
+        QVERIFY(QFileInfo(link).isSymLink());
         QCOMPARE(restored.error, QString());
         QCOMPARE(restored.exitCode, 0);
         const QString kept = restored.output.section(u": "_s, 2).trimmed();
         QVERIFY2(QFile::exists(kept), qPrintable(restored.output));
         QCOMPARE(kuyum({u"sorgu"_s, m_database, u"Select Count(*) As N From Firma"_s}).output,
                  u"\"N\"\n2\n"_s);
+    }
+
+    void noOutputGoesOverADatabase()
+    {
+        const QString link = m_folder.filePath(u"kisayol.pdf"_s);
+        const QString report = m_folder.filePath(u"rapor.pdf"_s);
+        const QString journal = m_folder.filePath(u"ornek.kuyum-journal"_s);
+        QVERIFY(QFile::link(m_database, link));
+        QVERIFY(QFile::copy(m_database, report)); // a database, whatever it is called
+        QFile::setPermissions(report, QFile::permissions(report) | QFile::WriteOwner);
+        const QByteArray before = fileBytes();
+        const QStringList slip{u"fis"_s, m_database, u"1"_s};
+        const QStringList march{u"rapor"_s,  u"tas"_s,   m_database,  u"--bas"_s,
+                                u"1.3.12"_s, u"--bit"_s, u"31.3.12"_s};
+        const QStringList code{u"barkod"_s, u"code39"_s, u"A"_s, u"--dpi"_s, u"203"_s};
+        for (const QString &target : {m_database, link, report, journal,
+                                      m_folder.filePath(u"yeni.MDB"_s), m_folder.path()}) {
+            for (const QStringList &words :
+                 {slip + QStringList{u"--pdf"_s, target}, march + QStringList{u"--csv"_s, target},
+                  march + QStringList{u"--xlsx"_s, target},
+                  code + QStringList{u"--png"_s, target}}) {
+                const Outcome refused = kuyum(words);
+                QVERIFY2(refused.exitCode == 1 && refused.error.contains(u"yazılamadı"_s),
+                         qPrintable(words.join(u' ') + refused.error));
+            }
+        }
+        QCOMPARE(fileBytes(), before);
+        QCOMPARE(::fileBytes(report), before);
+        QVERIFY(!QFile::exists(journal) && !QFile::exists(m_folder.filePath(u"yeni.MDB"_s)));
+        QVERIFY(QFile::remove(report) && QFile::remove(link));
+    }
+
+    void aResultThatNobodyGotIsNone()
+    {
+        const QString full = u"/dev/full"_s;
+        if (!QFile::exists(full))
+            QSKIP("no full device here");
+        for (const QStringList &words :
+             {QStringList{u"--help"_s}, QStringList{u"denetle"_s, m_database},
+              QStringList{u"sorgu"_s, m_database, u"Select * From SiparisD"_s}}) {
+            QProcess program;
+            program.setStandardOutputFile(full);
+            program.start(qEnvironmentVariable("KUYUM_PROGRAM"), words);
+            QVERIFY(program.waitForFinished());
+            QCOMPARE(program.exitCode(), 1);
+            QVERIFY(QString::fromUtf8(program.readAllStandardError()).contains(u"disk dolu"_s));
+        }
+    }
+
+    void aNameThatBeginsWithAColonIsAName()
+    {
+        QProcess program;
+        program.setWorkingDirectory(m_folder.path());
+        for (const QString &name : {u":memory:"_s, u"file:a?mode=memory"_s}) {
+            QVERIFY(QFile::copy(m_database, m_folder.path() + u'/' + name));
+            program.start(qEnvironmentVariable("KUYUM_PROGRAM"),
+                          {u"sorgu"_s, name, u"Select Count(*) As N From Firma"_s});
+            QVERIFY(program.waitForFinished());
+            QCOMPARE(program.readAllStandardOutput(), "\"N\"\n2\n");
+        }
     }
 
     void theCheckTellsDanglingCodesEmptyFieldsAndCounts()

@@ -24,6 +24,7 @@ private Q_SLOTS:
     void whatAnEndedProcessLeftIsRemoved();
     void aStoppedBackupLeavesNothing();
     void aBusyOrDamagedDatabaseGivesNoBackup();
+    void aLoggedDatabaseGivesAWholeBackupAndNothingElse();
     void anyChangedByteIsNoticed();
     void restoresAndKeepsTheReplacedOne();
     void restoresOverADamagedOrMissingOne();
@@ -210,6 +211,21 @@ void BackupTest::aBusyOrDamagedDatabaseGivesNoBackup()
     }
     QCOMPARE(inFolder(u"yedek"_s), before);
     checkBackup(good);
+}
+
+void BackupTest::aLoggedDatabaseGivesAWholeBackupAndNothingElse()
+{
+    m_db->engine().run(u"PRAGMA journal_mode = WAL"_s);
+    m_db.reset();
+    m_db = Database::open(company(), Database::Access::ReadOnly);
+    QVERIFY_THROWS_EXCEPTION(DatabaseError, m_db->execute(u"Delete From Firma"_s));
+    const QString backup = makeBackup(*m_db, BackupKind::Manual);
+    m_db.reset();
+    checkBackup(backup);
+    QCOMPARE(inFolder(), QStringList{u"atolye.kuyum"_s});
+    QCOMPARE(inFolder(u"yedek"_s).size(), 2);
+    const QFile::Permissions others = QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther;
+    QVERIFY(!(QFile::permissions(company()) & others) && !(QFile::permissions(backup) & others));
 }
 
 void BackupTest::anyChangedByteIsNoticed()

@@ -46,6 +46,10 @@ void DialectTest::evaluates_data()
     QTest::newRow("turkish capitals") << u"UCase('iğne')"_s << u"İĞNE"_s;
     QTest::newRow("format half up") << u"Format(2.675,'0.00')"_s << u"2.68"_s;
     QTest::newRow("like") << u"IIf('Ilgın2609' Like 'ilg?n*', 1, 0)"_s << u"1"_s;
+    QTest::newRow("like with more stars than one could try")
+        << u"IIf('%1' Like '%2b', 1, 0)"_s.arg(QString(200, u'a'), u"a*"_s.repeated(60)) << u"0"_s;
+    QTest::newRow("like that goes back to its last star")
+        << u"IIf('Kolye 12 altın 7' Like 'kol*1# *n ?', 1, 0)"_s << u"1"_s;
     QTest::newRow("top in a sub-select")
         << u"(Select Top 1 Model From Model Order by Model_ID desc)"_s << u"boş"_s;
 }
@@ -66,6 +70,11 @@ void DialectTest::refuses_data()
     QTest::newRow("open bracket") << u"Select * From (Select 1"_s;
     QTest::newRow("stray bracket") << u"Select 1)"_s;
     QTest::newRow("two statements") << u"Select 1; DELETE From Tas"_s;
+    QTest::newRow("a statement in brackets") << u"Select [1; DELETE From Tas --](1) From Tas"_s;
+    QTest::newRow("a function in brackets") << u"Select [abs(1), max](1)"_s;
+    QTest::newRow("the engine's own quotes") << u"Select ` 'x` From Tas --' `"_s;
+    QTest::newRow("an end in the middle")
+        << u"Select * From Tas"_s + QChar(QChar::Null) + u" Where TasID = 1"_s;
     QTest::newRow("unknown field") << u"Select Yok From Tas"_s;
     QTest::newRow("unknown table") << u"Select * From Yok"_s;
     QTest::newRow("misspelt word") << u"Selekt * From Tas"_s;

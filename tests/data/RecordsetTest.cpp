@@ -1,4 +1,6 @@
 #include "Database.h"
+#include "DatabaseCheck.h"
+#include "OpeningNotes.h"
 #include "SampleCompany.h"
 #include "Schema.h"
 #include "SqliteEngine.h"
@@ -29,6 +31,7 @@ private Q_SLOTS:
     void numbersGoOnAfterTheHighest();
     void tellsDefinitionsBack();
     void completesAnOlderFile();
+    void aTableWithoutItsCounterIsMendedOrNotOpened();
     void refusesForeignFiles();
 
 private:
@@ -297,6 +300,42 @@ void RecordsetTest::completesAnOlderFile()
     QVERIFY(rows.next());
     db->setSchemaVersion(currentSchemaVersion + 1);
     QVERIFY_THROWS_EXCEPTION(DatabaseError, openCompany(path));
+}
+
+void RecordsetTest::aTableWithoutItsCounterIsMendedOrNotOpened()
+{
+    const auto takeCounter = [this](const QString &table) {
+        TableDef plain = m_db->tableDef(table);
+        plain.name = u"sayacsiz"_s;
+        plain.indexes.clear();
+        for (FieldDef &field : plain.fields)
+            field.counter = false;
+        m_db->createTable(plain);
+        m_db->engine().run(u"INSERT INTO sayacsiz SELECT * FROM "_s + table);
+        m_db->engine().run(u"DROP TABLE "_s + table);
+        m_db->engine().run(u"ALTER TABLE sayacsiz RENAME TO "_s + table);
+    };
+    takeCounter(u"SiparisD"_s);
+    m_db->execute(u"Update SiparisD Set Dotosayi = 5 Where SipSatir = 1"_s);
+    m_db->execute(u"Update SiparisD Set Dotosayi = null Where SipSatir = 2"_s);
+    QCOMPARE(checkDatabase(*m_db).missingCounters, QStringList{u"SiparisD.Dotosayi"_s});
+    const qint64 rows = m_db->rowCount(u"SiparisD"_s);
+    {
+        const std::unique_ptr<Database> db = openCompany(m_db->path());
+        Recordset numbers = db->query(u"Select Count(*) As Adet, Count(Dotosayi) As Dolu, "
+                                      "Sum(IIf(Dotosayi = 5, 1, 0)) As Bes From SiparisD"_s);
+        QVERIFY(numbers.next());
+        QVERIFY(numbers.integer(u"Adet") == rows && numbers.integer(u"Dolu") == rows);
+        QCOMPARE(numbers.integer(u"Bes"), 1);
+        QVERIFY(checkDatabase(*db).isSound());
+        QVERIFY(untoldNotes(*db).size() > 1);
+    }
+    // Two models of one number, and a catalogue that means one of them.
+    takeCounter(u"Model"_s);
+    m_db->execute(
+        u"Update Model Set Model_ID = (Select Max(katno1) From Katalog Where katno1 < 90)"_s);
+    QVERIFY_THROWS_EXCEPTION(DatabaseError, openCompany(m_db->path()));
+    QVERIFY(m_db->tableDef(u"Model"_s).counter() == nullptr);
 }
 
 void RecordsetTest::refusesForeignFiles()

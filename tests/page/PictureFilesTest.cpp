@@ -168,7 +168,7 @@ private Q_SLOTS:
                 told = QString::fromUtf8(error.what());
             }
         }
-        QVERIFY2(told.startsWith(u"Resim kaydedilemedi: "_s), qPrintable(told));
+        QVERIFY2(told.startsWith(u"Resim dosyası yazılamadı: "_s), qPrintable(told));
         QCOMPARE(read(path), old);
         QCOMPARE(QDir(m_dir->path()).entryList(QDir::Files), QStringList{u"eski.jpg"_s});
 #else

@@ -319,6 +319,8 @@ void YenilemeTest::newDatabaseGoesNowhereElse()
     QVERIFY(targetRefusal(oturum, company.path()).contains(u"çalışılan veri tabanının kendisi"_s));
     QVERIFY(targetRefusal(oturum, oturum.kayitYolu).contains(u"kayıt dosyası"_s));
     QVERIFY(targetRefusal(oturum, path(u"ikinci.kuyum"_s)).contains(u"bir şirketin veri tabanı"_s));
+    makeSampleCompany(path(u"yedek.kuyum"_s)); // of no registry
+    QVERIFY(targetRefusal(oturum, path(u"yedek.kuyum"_s)).contains(u"kayıtlar olan"_s));
     QVERIFY(targetRefusal(oturum, path(u"a.MDB"_s)).contains(u".kuyum ile biten"_s));
     QVERIFY(targetRefusal(oturum, path(u"yok/a.kuyum"_s)).startsWith(u"14 "_s));
 

@@ -3,6 +3,7 @@
 #include "Dates.h"
 #include "LegacySample.h"
 #include "MdbExport.h"
+#include "OpeningNotes.h"
 #include "Schema.h"
 #include "TakeOver.h"
 
@@ -31,7 +32,9 @@ private Q_SLOTS:
     void countersGoOnBehindTheHighest();
     void everythingTheSchemaKnowsIsThere();
     void rowsThatMovedAndWereDeletedStayAway();
-    void twiceUsedCountersLoseNoRow();
+    void twiceUsedNumbersOfLinesBecomeNewOnes();
+    void aTwiceUsedNumberThatOthersMeanIsRefused();
+    void whatIsMissingIsTold();
     void unknownTablesCome();
     void progressRunsToTheEnd();
     void cancellingLeavesNothing();
@@ -174,23 +177,60 @@ void TakeOverTest::rowsThatMovedAndWereDeletedStayAway()
     QCOMPARE(count(*db, u"Select Count(*) From SiparisD"_s), qint64(rows - 3));
 }
 
-void TakeOverTest::twiceUsedCountersLoseNoRow()
+/// Gives the table's second row the number of its first; returns it.
+static quint32 useTwice(LegacySample &sample, qsizetype table, const QString &counter)
+{
+    QList<LegacySample::Row> rows = sample.places(table);
+    rows.removeIf([&sample](const LegacySample::Row &row) { return sample.marksOf(row) != 0; });
+    const quint32 number = sample.number(sample.fixedField(rows[0], table, counter), 4);
+    sample.setNumber(sample.fixedField(rows[1], table, counter), 4, number);
+    return number;
+}
+
+void TakeOverTest::twiceUsedNumbersOfLinesBecomeNewOnes()
 {
     LegacySample sample(u"atolye.mdb"_s);
     if (!sample.isPresent())
         QSKIP("no example files");
     const qsizetype lines = sample.definitionOf({u"Dotosayi"_s, u"SipSatir"_s});
-    const QList<LegacySample::Row> rows = sample.places(lines);
-    const auto plain = [&sample](const LegacySample::Row &row) { return sample.marksOf(row) == 0; };
-    const auto first = std::find_if(rows.begin(), rows.end(), plain);
-    const auto second = std::find_if(first + 1, rows.end(), plain);
-    const quint32 number = sample.number(sample.fixedField(*first, lines, u"Dotosayi"_s), 4);
-    sample.setNumber(sample.fixedField(*second, lines, u"Dotosayi"_s), 4, number);
-
+    const quint32 number = useTwice(sample, lines, u"Dotosayi"_s);
     const std::unique_ptr<Database> db = sample.takenOver();
-    QCOMPARE(count(*db, u"Select Count(*) From SiparisD"_s), qint64(sample.number(lines + 16, 4)));
-    QCOMPARE(count(*db, u"Select Count(*) From SiparisD Where Dotosayi = %1"_s.arg(number)), 2);
-    QVERIFY(db->tableDef(u"SiparisD"_s).counter() == nullptr);
+    const qint64 rows = sample.number(lines + 16, 4);
+    QCOMPARE(count(*db, u"Select Count(*) From SiparisD"_s), rows);
+    QCOMPARE(count(*db, u"Select Count(*) From SiparisD Where Dotosayi = %1"_s.arg(number)), 1);
+    QCOMPARE(db->tableDef(u"SiparisD"_s).counter()->name, u"Dotosayi"_s);
+    QVERIFY(!db->tableDef(u"SiparisD"_s).indexes.isEmpty());
+    const QStringList notes = openingNotes(*db);
+    QCOMPARE(notes.size(), 1);
+    QVERIFY2(notes[0].startsWith(
+                 u"SiparisD.Dotosayi: %1 başka bir kayıtta da vardı, yeni numarası "_s.arg(number)),
+             qPrintable(notes[0]));
+}
+
+void TakeOverTest::aTwiceUsedNumberThatOthersMeanIsRefused()
+{
+    LegacySample sample(u"atolye.mdb"_s);
+    if (!sample.isPresent())
+        QSKIP("no example files");
+    const quint32 number =
+        useTwice(sample, sample.definitionOf({u"Sipnum"_s, u"TesTrh"_s}), u"Sipnum"_s);
+    const QString told = sample.refusal();
+    QVERIFY2(told.contains(u"\"SiparisB\" tablosunda %1 numarası"_s.arg(number)), qPrintable(told));
+    QCOMPARE(sample.leftBehind(), QStringList());
+}
+
+void TakeOverTest::whatIsMissingIsTold()
+{
+    LegacySample sample(u"atolye.mdb"_s);
+    if (!sample.isPresent())
+        QSKIP("no example files");
+    const qsizetype colours = sample.definitionOf({u"RenkNo"_s, u"Renksira"_s});
+    for (const LegacySample::Row &row : sample.places(colours))
+        sample.setMarks(row, 0xc000);
+    sample.setNumber(colours + 16, 4, 0);
+    const QStringList notes = openingNotes(*sample.takenOver());
+    QCOMPARE(notes.size(), 1);
+    QVERIFY2(notes[0].startsWith(u"Renkler tablosu boş, ama SiparisD"_s), qPrintable(notes[0]));
 }
 
 void TakeOverTest::unknownTablesCome()
@@ -214,6 +254,8 @@ void TakeOverTest::unknownTablesCome()
     const std::unique_ptr<Database> db = sample.takenOver();
     QCOMPARE(count(*db, u"Select Count(*) From [Ek Üç x]"_s), 48);
     QCOMPARE(count(*db, u"Select Count(*) From Katalog"_s), 0);
+    QCOMPARE(openingNotes(*db),
+             QStringList{u"Katalog tablosu eski dosyada yok; boş olarak açıldı."_s});
 }
 
 void TakeOverTest::progressRunsToTheEnd()

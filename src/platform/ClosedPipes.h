@@ -1,0 +1,5 @@
+#pragma once
+
+/// From now on writing into a pipe whose reader has gone fails, as on a full
+/// disk, and does not end the process.
+void surviveClosedPipes();
