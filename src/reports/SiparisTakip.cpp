@@ -61,18 +61,6 @@ QList<TakipSatiri> alike(const QList<TakipSatiri> &satirlar, const TakipSatiri &
     return found;
 }
 
-/// The lines whose statuses or dates were set.
-QList<TakipSatiri> linesSet(const TakipKaydi &kayit)
-{
-    QList<TakipSatiri> found;
-    for (const TakipSatiri &satir : kayit.satirlar) {
-        const auto opened = std::ranges::find(kayit.opened, satir.Dotosayi, &TakipSatiri::Dotosayi);
-        if (opened == kayit.opened.end() || opened->state != satir.state)
-            found.append(satir);
-    }
-    return found;
-}
-
 } // namespace
 
 bool SiparisTakip::duzenlemeYetkisi() const
@@ -132,10 +120,30 @@ LoadedRows SiparisTakip::oku(qint32 Sipnum) const
     return {db, {orderLineRows(db, Sipnum)}};
 }
 
+/// The lines whose statuses or dates were set, and those that hold nothing
+/// where a save leaves an empty text or the date that stands for none.
+QList<TakipSatiri> SiparisTakip::linesToWrite(const TakipKaydi &kayit) const
+{
+    Recordset empty = m_oturum->sorgula(
+        u"Select Dotosayi From SiparisD Where SipnumD = "_s + sqlNumber(kayit.Sipnum) +
+        u" and (Drm1 Is Null or Drm2 Is Null or Trhbas Is Null or Trhbit Is Null)"_s);
+    QSet<qint32> withNulls;
+    while (empty.next())
+        withNulls.insert(qint32(empty.integer(u"Dotosayi")));
+    QList<TakipSatiri> lines;
+    for (const TakipSatiri &satir : kayit.satirlar) {
+        const auto opened = std::ranges::find(kayit.opened, satir.Dotosayi, &TakipSatiri::Dotosayi);
+        if (opened == kayit.opened.end() || opened->state != satir.state ||
+            withNulls.contains(satir.Dotosayi))
+            lines.append(satir);
+    }
+    return lines;
+}
+
 TakipSonucu SiparisTakip::kaydet(const TakipKaydi &kayit, LoadedRows &okunan,
                                  const SaveError &onError, const SaveProgress &progress) const
 {
-    const QList<TakipSatiri> lines = linesSet(kayit);
+    const QList<TakipSatiri> lines = linesToWrite(kayit);
     // All lines at once, so that the user is asked once.
     okunan.check(*m_oturum->Veritabani, [&] {
         for (const TakipSatiri &line : lines) {

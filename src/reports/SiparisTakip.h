@@ -69,7 +69,8 @@ public:
     /// that may follow.
     LoadedRows oku(qint32 Sipnum) const;
     /// Writes the statuses and dates that were set, line by line, each on its
-    /// own: one that fails does not stop the others. A line that an order entry
+    /// own: one that fails does not stop the others. Nulls are filled even where
+    /// nothing was set. A line that an order entry
     /// wrote anew meanwhile is found again where no other could be meant.
     /// Throws ChangedMeanwhile where another set a status or date of a line, as
     /// a rule before anything is written.
@@ -78,6 +79,7 @@ public:
 
 private:
     QList<TakipSatiri> readLines(qint32 Sipnum) const;
+    QList<TakipSatiri> linesToWrite(const TakipKaydi &kayit) const;
     qint32 numberOf(const TakipKaydi &kayit, const TakipSatiri &satir) const;
     qint32 findAgain(const TakipKaydi &kayit, const TakipSatiri &satir) const;
     bool writeLine(const TakipKaydi &kayit, const TakipSatiri &satir,

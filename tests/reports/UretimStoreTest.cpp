@@ -252,7 +252,7 @@ void UretimStoreTest::savesLinesOneByOne()
     lines[0].state.durum1 = u"HAZIR"_s;
     lines[0].state.bitTrh = QDateTime(QDate(2012, 5, 4), QTime(0, 0), Qt::UTC);
     lines[1].state.durum1 = u"O'X"_s;
-    lines[2].state.durum2 = u"  "_s;
+    lines[1].state.durum2 = u"  "_s; // the third is not touched
     TakipKaydi kayit{3, takip.SiparisBul(3)->satirlar, lines};
     LoadedRows loaded = takip.oku(3);
     db.engine().run(u"CREATE TRIGGER t BEFORE UPDATE ON SiparisD WHEN NEW.Drm1 = 'HAZIR' BEGIN "
