@@ -3,8 +3,10 @@
 #include "Dates.h"
 #include "EntryControls.h"
 #include "Guarded.h"
+#include "KeptLinesNote.h"
 #include "Numbers.h"
 #include "Oturum.h"
+#include "SavedLine.h"
 #include "StoppableWork.h"
 #include "TakipModel.h"
 #include "Theme.h"
@@ -22,7 +24,8 @@ KontrolSekmesi::KontrolSekmesi(const ScreenContext &context, QWidget *parent)
       m_context(context),
       m_takip(context.oturum),
       m_ui(std::make_unique<Ui::KontrolSekmesi>()),
-      m_model(new TakipModel(this))
+      m_model(new TakipModel(this)),
+      m_saved(new SavedLine(this))
 {
     m_ui->setupUi(this);
     m_ui->modelPaneli->setOturum(context.oturum);
@@ -65,6 +68,8 @@ void KontrolSekmesi::connectControls()
     bind(m_ui->CmdListe1, &KontrolSekmesi::pickOrder);
     bind(m_ui->cmdKayit1, &KontrolSekmesi::save);
     bind(m_ui->cmdVazgec1, &KontrolSekmesi::clearTab);
+    m_saved->standAboveButtons(*m_ui->layout);
+    m_saved->goWith(*m_ui->Sipnum);
     keepNumeric(*m_ui->Sipnum, m_context.messages);
     connect(m_ui->Rapor1, &TakipGrid::abandoned, this, &KontrolSekmesi::escape);
     connect(m_ui->Rapor1->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
@@ -166,6 +171,7 @@ void KontrolSekmesi::SiparisDoldur(const TakipSiparisi &siparis)
     m_model->fill(siparis.satirlar);
     m_ui->Rapor1->horizontalHeader()->setSortIndicatorShown(false);
     tellHiddenLines(siparis.gizliSatirlar);
+    m_saved->forget();
     setOpen(true);
     m_ui->Rapor1->setCurrentIndex(m_model->index(0, TakipModel::SipDur));
     m_ui->Rapor1->setFocus();
@@ -174,15 +180,9 @@ void KontrolSekmesi::SiparisDoldur(const TakipSiparisi &siparis)
 /// Tells of the order's lines that the query of the grid does not bring.
 void KontrolSekmesi::tellHiddenLines(const QList<KeptLine> &lines)
 {
-    constexpr qsizetype mostNamed = 5;
-    QStringList names;
-    for (const KeptLine &line : lines.first(std::min(mostNamed, lines.size())))
-        names.append(u"%1 %2, %3 adet"_s.arg(line.model, line.renk, QString::number(line.adet)));
-    if (lines.size() > mostNamed)
-        names.append(u"..."_s);
     m_ui->gizliNotu->setText(
         u"Rengi ya da ürün tipi tanımlı olmayan %1 satır gösterilemiyor (%2). "
-        "Kaydederken olduğu gibi kalır."_s.arg(QString::number(lines.size()), names.join(u"; "_s)));
+        "Kaydederken olduğu gibi kalır."_s.arg(QString::number(lines.size()), namesOf(lines)));
     m_ui->gizliNotu->setVisible(!lines.isEmpty());
 }
 
@@ -221,8 +221,11 @@ void KontrolSekmesi::save()
         ended = m_takip.kaydet(m_Sipnum, m_model->satirlar(), tell, work.progress());
     }
     // What was not written, since it failed or the user stopped, stands only here.
-    if (ended && !failed)
-        clearTab();
+    if (!ended || failed)
+        return;
+    const QString what = u"%1 nolu siparişin satırları"_s.arg(m_Sipnum);
+    clearTab();
+    m_saved->tell(what);
 }
 
 /// cmdVazgec1: back to the order number, with everything emptied.

@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QWidget>
 
+class SavedLine;
 class TakipModel;
 
 namespace Ui {
@@ -49,6 +50,7 @@ private:
     SiparisTakip m_takip;
     std::unique_ptr<Ui::KontrolSekmesi> m_ui;
     TakipModel *m_model;
+    SavedLine *m_saved;
     qint32 m_Sipnum = 0; ///< the order on the tab; 0: none
     QTimer m_modelTimer; ///< a held arrow key passes lines without showing each
 };
