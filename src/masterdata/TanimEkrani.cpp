@@ -5,8 +5,10 @@
 #include "NumberRange.h"
 #include "Numbers.h"
 #include "Oturum.h"
+#include "SavedLine.h"
 #include "Theme.h"
 
+#include <QBoxLayout>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -16,7 +18,7 @@
 using namespace Qt::StringLiterals;
 
 TanimEkrani::TanimEkrani(const ScreenContext &context, QWidget *parent)
-    : QDialog(parent), m_context(context)
+    : QDialog(parent), m_context(context), m_saved(new SavedLine(this))
 {
 }
 
@@ -42,6 +44,11 @@ void TanimEkrani::setUpForm(const Form &form)
     for (QWidget *control : form.keys + QList<QWidget *>{form.parts.kayitDurumu})
         control->setPalette(muted);
 
+    m_saved->standAboveButtons(*qobject_cast<QBoxLayout *>(layout()));
+    for (QWidget *key : form.keys) {
+        if (const auto *box = qobject_cast<QLineEdit *>(key))
+            m_saved->goWith(*box);
+    }
     for (QWidget *control : form.keys + form.values) {
         if (auto *box = qobject_cast<QLineEdit *>(control)) {
             limitText(*box, box->objectName());
@@ -139,6 +146,7 @@ void TanimEkrani::setEnabled(Found found, bool editing)
 void TanimEkrani::TusAC(Found found)
 {
     setEnabled(found, true);
+    m_saved->forget();
     m_form.parts.kayitDurumu->setText(found == Found::Row ? u"Kayıtlı"_s : u"Yeni kayıt"_s);
     for (QWidget *value : m_form.values) {
         // A text longer than its box is read from its beginning.
@@ -198,8 +206,11 @@ void TanimEkrani::pick()
 
 void TanimEkrani::save()
 {
-    if (mayWrite() && writeRow())
-        TusKapa();
+    if (!mayWrite() || !writeRow())
+        return;
+    const QString what = savedWhat();
+    TusKapa();
+    m_saved->tell(what);
 }
 
 bool TanimEkrani::mayWrite()

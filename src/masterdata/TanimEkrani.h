@@ -10,6 +10,7 @@
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class SavedLine;
 
 /// The base of the definition screens, which edit one row, found by its key.
 ///
@@ -78,6 +79,8 @@ protected:
     /// Writes the row that is on the screen; false when the screen refused it
     /// and has said why.
     virtual bool writeRow() = 0;
+    /// What the row on the screen is called when it has been saved.
+    virtual QString savedWhat() const = 0;
     /// Asks whether the row found shall go.
     virtual bool mayRemove() = 0;
     virtual void removeRow() = 0;
@@ -143,4 +146,5 @@ private:
     TableDef m_table;
     Form m_form;
     QHash<const QLineEdit *, ShownNumber> m_shown;
+    SavedLine *m_saved;
 };

@@ -23,6 +23,7 @@ private:
     bool pickKey() override;
     Found readRow() override;
     bool writeRow() override;
+    QString savedWhat() const override;
     bool mayRemove() override;
     void removeRow() override;
     void emptyForm() override;
@@ -32,6 +33,7 @@ private:
     void DosyadanAta(const Firma &firma);
     void showCountries();
     void addCountry();
+    void offerCode();
 
     FirmaStore m_store;
     QList<Ulke> m_ulkeler;

@@ -25,6 +25,7 @@ private:
     bool pickKey() override;
     Found readRow() override;
     bool writeRow() override;
+    QString savedWhat() const override;
     bool mayRemove() override;
     void removeRow() override;
     void emptyForm() override;

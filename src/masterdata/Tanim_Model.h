@@ -34,6 +34,7 @@ private:
     bool pickKey() override;
     Found readRow() override;
     bool writeRow() override;
+    QString savedWhat() const override;
     bool mayRemove() override;
     void removeRow() override;
     bool mayLeave() override;

@@ -24,6 +24,7 @@ private:
     Found readRow() override;
     bool mayWrite() override;
     bool writeRow() override;
+    QString savedWhat() const override;
     bool mayRemove() override;
     void removeRow() override;
     double TipID() const;

@@ -5,6 +5,7 @@
 #include "Guarded.h"
 #include "KurModel.h"
 #include "Oturum.h"
+#include "SavedLine.h"
 #include "Theme.h"
 #include "ui_Giris_Kur.h"
 #include "WindowSize.h"
@@ -20,7 +21,8 @@ Giris_Kur::Giris_Kur(const ScreenContext &context, QSettings &settings, QWidget 
       m_settings(settings),
       m_store(context.oturum),
       m_ui(std::make_unique<Ui::Giris_Kur>()),
-      m_model(new KurModel(this))
+      m_model(new KurModel(this)),
+      m_saved(new SavedLine(this))
 {
     m_ui->setupUi(this);
     setUpLook();
@@ -60,6 +62,8 @@ void Giris_Kur::connectControls()
     bind(m_ui->Sil_Cmd, &Giris_Kur::remove);
     bind(m_ui->Geri_Cmd, &Giris_Kur::abandon);
     bind(m_ui->Son_Cmd, &Giris_Kur::reject);
+    m_saved->standAboveButtons(*m_ui->layout);
+    m_saved->goWith(*m_ui->Tarih);
     connect(m_ui->Check_Alis, &QCheckBox::toggled, this, &Giris_Kur::keepBuyingRates);
     connect(m_ui->KurGrid, &RateGrid::finished, this,
             [this] { m_ui->Kayit_Cmd->setFocus(Qt::TabFocusReason); });
@@ -178,6 +182,7 @@ void Giris_Kur::KurGoster()
     m_opened = rows;
     m_ui->Tarih->setDate(date);
     m_ui->kurNotu->setText(note);
+    m_saved->forget();
     m_model->fill(rows);
     setEntering(true);
     m_ui->Sil_Cmd->setEnabled(hasOwn);
@@ -210,6 +215,7 @@ void Giris_Kur::save()
     m_ui->KurGrid->finishEdit();
     m_store.save(m_date, m_model->satirlar(), m_model->alisKurlari());
     enterDate();
+    m_saved->tell(formatDate(m_date) + u" kurları"_s);
 }
 
 void Giris_Kur::remove()

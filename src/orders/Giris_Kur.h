@@ -8,6 +8,7 @@
 
 class KurModel;
 class QSettings;
+class SavedLine;
 
 namespace Ui {
 class Giris_Kur;
@@ -59,6 +60,7 @@ private:
     KurStore m_store;
     std::unique_ptr<Ui::Giris_Kur> m_ui;
     KurModel *m_model;
+    SavedLine *m_saved;
     QDate m_date;              ///< whose rates stand in the grid
     QList<KurSatiri> m_opened; ///< the rates as they were shown
 };

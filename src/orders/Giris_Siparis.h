@@ -12,6 +12,7 @@
 
 class ModelEntry;
 class QSettings;
+class SavedLine;
 class SiparisModel;
 
 namespace Ui {
@@ -89,13 +90,15 @@ private:
     // Saving
     Siparis collect() const;
     bool check(const Siparis &siparis);
+    bool karatFits();
     void showFault(const OrderFault &fault);
     bool holdsOwnNumber();
     void showNumber(const Siparis &siparis);
     void save();
     void saveAsNew();
     void removeOrder();
-    void afterSave(const Siparis &siparis);
+    void afterSave(const Siparis &siparis, const QString &kind);
+    QString removalQuestion() const;
 
     void openReport(const OrderReportOpener &report);
 
@@ -116,6 +119,7 @@ private:
     std::unique_ptr<Ui::Giris_Siparis> m_ui;
     SiparisModel *m_model;
     ModelEntry *m_modelEntry;
+    SavedLine *m_saved;
     OrderCustomer m_customer;    ///< the customer on the screen
     qint32 m_stored = 0;         ///< the stored order that the screen holds; 0: none
     Siparis m_opened;            ///< the screen as it was opened

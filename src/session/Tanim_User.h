@@ -28,6 +28,7 @@ private:
     bool pickKey() override;
     Found readRow() override;
     bool writeRow() override;
+    QString savedWhat() const override;
     bool mayRemove() override;
     void removeRow() override;
     bool mayLeave() override;
@@ -35,6 +36,7 @@ private:
 
     void showUser(const Kullanici &user);
     QString noteOn(const Kullanici &user) const;
+    void passwordChanged();
     void countRights();
     void toggleRight();
     void extraRightClicked();
