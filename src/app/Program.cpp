@@ -14,6 +14,7 @@
 #include "SingleInstance.h"
 #include "StartUp.h"
 #include "Theme.h"
+#include "TypedChoice.h"
 #include "WheelGuard.h"
 #include "WindowSize.h"
 
@@ -139,6 +140,7 @@ int runProgram(int &argc, char **argv)
     speakTurkish(application, translator);
     applyTheme(application);
     ignoreIdleMnemonics(application);
+    chooseEntriesAsTyped(application);
     guardBoxesFromWheel(application);
     QGuiApplication::setWindowIcon(emblemIcon());
     return runSession(application, messages, *registry);

@@ -4,6 +4,7 @@
 #include "ReadableDatabase.h"
 #include "SiparisStore.h"
 #include "UretimListesi.h"
+#include "UretimStore.h"
 
 #include <QCommandLineParser>
 #include <QFileInfo>
@@ -100,6 +101,12 @@ int uretimCommand(const QStringList &arguments)
     }
     const UretimListesi liste =
         uretimListesi(oturum, findOrders(oturum, request.siparisler), request.filtre);
+    const GizliSatirlar gizli =
+        UretimStore(oturum).gizliSatirlar(request.siparisler, request.filtre);
+    if (gizli.toplam() > 0) {
+        printError(u"%1 satır listeye girmiyor: %2."_s.arg(QString::number(gizli.toplam()),
+                                                           gizli.nedenler()));
+    }
     const auto goOn = [](int, int) { return true; };
     writePdf(*uretimRaporu(oturum, liste, request.yazdirma, goOn), request.pdf);
     return 0;

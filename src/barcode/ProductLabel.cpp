@@ -22,9 +22,8 @@ QString barcodeNumber(const ProductLabel &label)
 
 std::optional<ProductLabel> readLabel(QStringView text)
 {
-    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
     if (text.size() != labelLength || !text.startsWith(prefix) ||
-        !std::all_of(text.begin(), text.end(), isDigit))
+        !std::all_of(text.begin(), text.end(), isDecimalDigit))
         return std::nullopt;
     const QStringView numbers = text.sliced(prefix.size());
     return ProductLabel{

@@ -3,15 +3,11 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-bool isDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
 
 /// How many characters from the start of the text are a number.
 qsizetype numberLength(QStringView text)
@@ -22,7 +18,7 @@ qsizetype numberLength(QStringView text)
     bool digits = false;
     bool point = false;
     for (; at < text.size(); ++at) {
-        if (isDigit(text[at]))
+        if (isDecimalDigit(text[at]))
             digits = true;
         else if ((text[at] == u'.' || text[at] == u',') && !point)
             point = true;
@@ -108,6 +104,8 @@ QString plainNumber(double value)
 
 QString sqlNumber(double value)
 {
+    if (!std::isfinite(value))
+        throw std::range_error("Sayı çok büyük.");
     const QString text = plainNumber(value);
     return text.startsWith(u'-') ? text : u' ' + text;
 }

@@ -5,6 +5,12 @@
 /// Numbers as the screens take, store and show them: with a decimal point; a
 /// typed comma counts as one.
 
+/// 0 to 9, and no other script's digits: those would be no number in SQL.
+constexpr bool isDecimalDigit(QChar c)
+{
+    return c >= u'0' && c <= u'9';
+}
+
 /// The number at the start of the text, 0 when there is none ("12 gr" is 12).
 double leadingNumber(QStringView text);
 
@@ -12,6 +18,7 @@ double leadingNumber(QStringView text);
 bool isNumeric(QStringView text);
 
 /// A number as it is put into SQL text: a blank stands where a minus would.
+/// Throws std::range_error for one that has no digits (too large, or none).
 QString sqlNumber(double value);
 QString sqlNumber(qint64 value);
 inline QString sqlNumber(int value)

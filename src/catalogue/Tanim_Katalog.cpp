@@ -329,7 +329,7 @@ void Tanim_Katalog::clearEntry()
 void Tanim_Katalog::removeRow(int row)
 {
     if (!m_context.messages.ask(this, m_model->rowAt(row).Model + u" LİSTEDEN ÇIKARILACAK..."_s,
-                                MessageIcon::Information))
+                                MessageIcon::Information, {}, MessageAnswer::No))
         return;
     m_model->removeRow(row);
     m_ui->Rapor->goTo(row);

@@ -3,10 +3,12 @@
 #include <optional>
 #include <QString>
 
-/// Stored passwords: each character moved up by its place (the first by 1),
-/// as Windows-1254 codes. Only hides them from a passing glance.
+/// Stored passwords: each character moved up by its place (the first by 1), as
+/// Windows-1254 codes, and beyond the code page as Unicode's. Only hides them
+/// from a passing glance.
 
-/// Throws std::out_of_range when a code leaves the range of the code page.
+/// Throws std::out_of_range when a code leaves the range of a 16-bit signed
+/// number, or falls below 0.
 QString Sifrele(const QString &text);
 QString SifreCoz(const QString &scrambled);
 

@@ -1,6 +1,7 @@
 #include "SqlTokens.h"
 
 #include "DatabaseError.h"
+#include "Numbers.h"
 
 #include <array>
 #include <QStringList>
@@ -69,9 +70,12 @@ private:
             return {SqlToken::Kind::Text, delimited(c)};
         if (c == u'#')
             return {SqlToken::Kind::Date, delimited(c)};
-        const bool pointNumber = c == u'.' && m_at + 1 < m_sql.size() && m_sql[m_at + 1].isDigit();
-        if (c.isDigit() || pointNumber)
+        const bool pointNumber =
+            c == u'.' && m_at + 1 < m_sql.size() && isDecimalDigit(m_sql[m_at + 1]);
+        if (isDecimalDigit(c) || pointNumber)
             return number();
+        if (c.isDigit())
+            refuseSql(u"Sayılar yalnız 0-9 rakamlarıyla yazılır"_s, m_sql);
         static const std::array<QStringView, 4> pairs = {u"<>", u"<=", u">=", u"!="};
         for (const QStringView pair : pairs) {
             if (m_sql.sliced(m_at).startsWith(pair)) {
@@ -100,9 +104,9 @@ private:
     SqlToken number()
     {
         const qsizetype start = m_at;
-        while (m_at < m_sql.size() && (m_sql[m_at].isDigit() || m_sql[m_at] == u'.'))
+        while (m_at < m_sql.size() && (isDecimalDigit(m_sql[m_at]) || m_sql[m_at] == u'.'))
             ++m_at;
-        if (m_at < m_sql.size() && isWordStart(m_sql[m_at]))
+        if (m_at < m_sql.size() && (isWordStart(m_sql[m_at]) || m_sql[m_at].isDigit()))
             refuseSql(u"Sayıdan sonra harf"_s, m_sql);
         return {SqlToken::Kind::Number, m_sql.sliced(start, m_at - start).toString()};
     }

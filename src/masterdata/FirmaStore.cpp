@@ -1,6 +1,7 @@
 #include "FirmaStore.h"
 
 #include "CounterFields.h"
+#include "NumberRange.h"
 #include "Numbers.h"
 #include "Oturum.h"
 #include "SqlText.h"
@@ -62,6 +63,25 @@ void FirmaStore::save(const Firma &firma, LoadedRows &okunan) const
         Kayit.set(u"Aciklama", firma.Aciklama);
         Kayit.update();
     });
+}
+
+qint32 FirmaStore::bosKod() const
+{
+    const TableDef table = m_oturum->Veritabani->tableDef(u"Firma"_s);
+    const FieldDef *field = table.field(u"Firkod");
+    Recordset Kayit =
+        m_oturum->sorgula(u"Select Firkod From Firma Where Firkod > 0 Order by Firkod;"_s);
+    qint64 highest = 0;
+    qint64 gap = 0;
+    while (Kayit.next()) {
+        const qint64 code = Kayit.integer(u"Firkod");
+        if (gap == 0 && code > highest + 1)
+            gap = highest + 1;
+        highest = code;
+    }
+    const bool next =
+        field == nullptr || whyNumberDoesNotFit(*field, double(highest + 1)).isEmpty();
+    return qint32(next ? highest + 1 : gap);
 }
 
 bool FirmaStore::hasOrders(qint32 Firkod) const

@@ -23,6 +23,9 @@ public:
     /// blanks around it.
     void save(const Firma &firma, LoadedRows &okunan) const;
     /// A customer with orders must stay.
+    /// The code after the highest one; the lowest that is free where the
+    /// highest is the last that can be stored.
+    qint32 bosKod() const;
     bool hasOrders(qint32 Firkod) const;
     void remove(qint32 Firkod, LoadedRows &okunan) const;
 

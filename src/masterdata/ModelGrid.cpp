@@ -3,10 +3,13 @@
 #include "EntryControls.h"
 #include "MalzemeDelegate.h"
 #include "MalzemeModel.h"
+#include "Messages.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+
+using namespace Qt::StringLiterals;
 
 ModelGrid::ModelGrid(QWidget *parent) : QTableView(parent)
 {
@@ -21,6 +24,7 @@ ModelGrid::ModelGrid(QWidget *parent) : QTableView(parent)
 void ModelGrid::setUp(MalzemeModel *model, Messages &messages, TakeCode take)
 {
     m_model = model;
+    m_messages = &messages;
     m_take = std::move(take);
     m_delegate = new MalzemeDelegate(messages, this);
     setItemDelegate(m_delegate);
@@ -81,14 +85,32 @@ bool ModelGrid::takeEdit()
         if (!takeCode(cell))
             return false;
     } else if (cell.column() == MalzemeModel::tipColumn) {
-        m_model->setTip(cell.row(), text == malzemeAdi(MalzemeTipi::Tas) ? MalzemeTipi::Tas
-                                                                         : MalzemeTipi::YariMamul);
+        takeKind(cell.row(),
+                 text == malzemeAdi(MalzemeTipi::Tas) ? MalzemeTipi::Tas : MalzemeTipi::YariMamul);
     } else {
         m_model->setData(cell, text);
     }
     setCurrentIndex(cell);
     abandonEdit();
     return true;
+}
+
+/// Another kind clears the row's material, which is not lost unasked: from
+/// `Adet` the cursor comes back to the kind of the row just filled.
+void ModelGrid::takeKind(int row, MalzemeTipi tip)
+{
+    const ModelSatiri &satir = m_model->rowAt(row);
+    const bool clears = satir.tip != tip && (satir.M_Kod != 0 || satir.M_Adet != 0);
+    m_taking = true;
+    const bool wanted =
+        !clears ||
+        m_messages->ask(window(),
+                        u"TİP DEĞİŞİNCE SATIRDAKİ %1 SİLİNECEK, DEĞİŞTİRİLSİN Mİ ?"_s.arg(
+                            satir.Kod.isEmpty() ? u"MALZEME"_s : satir.Kod),
+                        MessageIcon::Exclamation, {}, MessageAnswer::No);
+    m_taking = false;
+    if (wanted)
+        m_model->setTip(row, tip);
 }
 
 bool ModelGrid::takeCode(const QModelIndex &cell)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Model.h"
+
 #include <functional>
 #include <QTableView>
 
@@ -45,12 +47,14 @@ protected:
 
 private:
     bool takeEdit();
+    void takeKind(int row, MalzemeTipi tip);
     bool takeCode(const QModelIndex &cell);
     void goOn();
     void editorLeft();
     void spreadColumns();
 
     MalzemeModel *m_model = nullptr;
+    Messages *m_messages = nullptr;
     MalzemeDelegate *m_delegate = nullptr;
     TakeCode m_take;
     bool m_taking = false;

@@ -6,3 +6,5 @@
 /// Turkish that begins with the field's name; empty when it can. A fraction
 /// does not go into a whole-number field: it would be rounded unseen.
 QString whyNumberDoesNotFit(const FieldDef &field, double number);
+/// The same for a fineness, which is a whole number from 1 on in any field.
+QString whyKaratDoesNotFit(const FieldDef &field, double karat);

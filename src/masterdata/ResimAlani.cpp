@@ -76,7 +76,7 @@ void ResimAlani::ResimSil(const QString &code, const std::function<QString()> &p
     const QString file = path();
     if (file.isEmpty() ||
         !m_messages.ask(m_screen, code + u" KODLU RESIM SILINECEK EMINMISINIZ..?"_s,
-                        MessageIcon::Exclamation, u"RESIM SILME"_s))
+                        MessageIcon::Exclamation, u"RESIM SILME"_s, MessageAnswer::No))
         return;
     if (QFile picture(file); !picture.remove()) {
         throw std::runtime_error((u"Resim silinemedi: "_s + QDir::toNativeSeparators(file) + u'\n' +

@@ -5,9 +5,11 @@
 #include "NumberRange.h"
 #include "Numbers.h"
 #include "Oturum.h"
+#include "SavedLine.h"
 #include "SaveOver.h"
 #include "Theme.h"
 
+#include <QBoxLayout>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -17,7 +19,7 @@
 using namespace Qt::StringLiterals;
 
 TanimEkrani::TanimEkrani(const ScreenContext &context, QWidget *parent)
-    : QDialog(parent), m_context(context)
+    : QDialog(parent), m_context(context), m_saved(new SavedLine(this))
 {
 }
 
@@ -43,6 +45,11 @@ void TanimEkrani::setUpForm(const Form &form)
     for (QWidget *control : form.keys + QList<QWidget *>{form.parts.kayitDurumu})
         control->setPalette(muted);
 
+    m_saved->standAboveButtons(*qobject_cast<QBoxLayout *>(layout()));
+    for (QWidget *key : form.keys) {
+        if (const auto *box = qobject_cast<QLineEdit *>(key))
+            m_saved->goWith(*box);
+    }
     for (QWidget *control : form.keys + form.values) {
         if (auto *box = qobject_cast<QLineEdit *>(control)) {
             limitText(*box, box->objectName());
@@ -140,6 +147,7 @@ void TanimEkrani::setEnabled(Found found, bool editing)
 void TanimEkrani::TusAC(Found found)
 {
     setEnabled(found, true);
+    m_saved->forget();
     m_form.parts.kayitDurumu->setText(found == Found::Row ? u"Kayıtlı"_s : u"Yeni kayıt"_s);
     for (QWidget *value : m_form.values) {
         // A text longer than its box is read from its beginning.
@@ -201,8 +209,11 @@ void TanimEkrani::pick()
 
 void TanimEkrani::save()
 {
-    if (mayWrite() && writeRow())
-        TusKapa();
+    if (!mayWrite() || !writeRow())
+        return;
+    const QString what = savedWhat();
+    TusKapa();
+    m_saved->tell(what);
 }
 
 bool TanimEkrani::mayWrite()

@@ -11,6 +11,7 @@
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class SavedLine;
 
 /// The base of the definition screens, which edit one row, found by its key.
 ///
@@ -81,6 +82,8 @@ protected:
     /// Writes the row that is on the screen, through store(); false when the
     /// screen refused it and has said why, or the user chose not to.
     virtual bool writeRow() = 0;
+    /// What the row on the screen is called when it has been saved.
+    virtual QString savedWhat() const = 0;
     /// Asks whether the row found shall go.
     virtual bool mayRemove() = 0;
     /// Removes it, through store().
@@ -152,4 +155,5 @@ private:
     Form m_form;
     LoadedRows m_loaded; ///< the record as it stood when it was found
     QHash<const QLineEdit *, ShownNumber> m_shown;
+    SavedLine *m_saved;
 };

@@ -65,6 +65,11 @@ bool Tanim_Ayar::writeRow()
     });
 }
 
+QString Tanim_Ayar::savedWhat() const
+{
+    return m_ui->Milyem->text() + u" ayarı"_s;
+}
+
 bool Tanim_Ayar::mayRemove()
 {
     return ask(m_ui->Milyem->text() + u" TANIMI SİLİNECEK ...!"_s, {}, MessageAnswer::Yes);

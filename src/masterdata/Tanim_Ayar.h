@@ -24,6 +24,7 @@ private:
     Found readRow() override;
     QList<RecordRows> recordRows() const override;
     bool writeRow() override;
+    QString savedWhat() const override;
     bool mayRemove() override;
     bool removeRow() override;
     double Milyem() const;

@@ -95,6 +95,11 @@ bool Tanim_Firma::writeRow()
     });
 }
 
+QString Tanim_Firma::savedWhat() const
+{
+    return m_ui->Firkod->text() + u" kodlu müşteri"_s;
+}
+
 bool Tanim_Firma::mayRemove()
 {
     if (m_store.hasOrders(Firkod())) {
@@ -103,7 +108,7 @@ bool Tanim_Firma::mayRemove()
         return false;
     }
     return ask(m_ui->FirAdi->text() + u" SİLİNECEK..."_s, u"FİRMA KARTI SİLME"_s,
-               MessageAnswer::Yes);
+               MessageAnswer::No);
 }
 
 bool Tanim_Firma::removeRow()
@@ -130,8 +135,18 @@ void Tanim_Firma::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Insert && m_ui->Ulke->hasFocus())
         guarded(context().messages, this, [this] { addCountry(); });
+    else if (event->key() == Qt::Key_Insert && m_ui->Firkod->hasFocus())
+        guarded(context().messages, this, [this] { offerCode(); });
     else
         TanimEkrani::keyPressEvent(event);
+}
+
+/// The next free code stands in the key, selected: Enter takes it, typing
+/// replaces it.
+void Tanim_Firma::offerCode()
+{
+    m_ui->Firkod->setText(QString::number(m_store.bosKod()));
+    goTo(m_ui->Firkod);
 }
 
 void Tanim_Firma::addCountry()

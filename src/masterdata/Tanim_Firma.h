@@ -24,6 +24,7 @@ private:
     Found readRow() override;
     QList<RecordRows> recordRows() const override;
     bool writeRow() override;
+    QString savedWhat() const override;
     bool mayRemove() override;
     bool removeRow() override;
     void emptyForm() override;
@@ -33,6 +34,7 @@ private:
     void DosyadanAta(const Firma &firma);
     void showCountries();
     void addCountry();
+    void offerCode();
 
     FirmaStore m_store;
     QList<Ulke> m_ulkeler;

@@ -82,6 +82,11 @@ bool Tanim_Kalip::writeRow()
     return true;
 }
 
+QString Tanim_Kalip::savedWhat() const
+{
+    return m_ui->KalipKodu->text() + u" kalıbı"_s;
+}
+
 bool Tanim_Kalip::mayRemove()
 {
     return ask(m_ui->KalipKodu->text() + u" SİLİNECEK. ONAYLIYORMUSUNUZ.?"_s, {},

@@ -259,7 +259,7 @@ void Tanim_Model::removeMaterial(int row)
     const int column = m_ui->Rapor->currentIndex().column();
     if (material != ModelSatiri() &&
         !context().messages.ask(this, material.Kod + u" LİSTEDEN ÇIKARILACAK..."_s,
-                                MessageIcon::Information))
+                                MessageIcon::Information, {}, MessageAnswer::No))
         return;
     m_materials->removeRow(row);
     m_ui->Rapor->goTo(std::min(row, m_materials->rowCount() - 1), column);
@@ -341,6 +341,11 @@ void Tanim_Model::etiketBas(const Model &model)
             this, u"KAYIT YAPILDI, ETİKET BASILAMADI.\n\n"_s + QString::fromUtf8(error.what()),
             MessageIcon::Critical, u"HATA"_s);
     }
+}
+
+QString Tanim_Model::savedWhat() const
+{
+    return m_ui->Model->text() + u' ' + tip().KisaAD + u" modeli"_s;
 }
 
 bool Tanim_Model::mayRemove()

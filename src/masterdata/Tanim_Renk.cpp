@@ -55,6 +55,11 @@ bool Tanim_Renk::writeRow()
     });
 }
 
+QString Tanim_Renk::savedWhat() const
+{
+    return m_ui->RenkNo->text() + u" rengi"_s;
+}
+
 bool Tanim_Renk::mayRemove()
 {
     return ask(m_ui->RenkNo->text() + u" RENK TANIMI SİLİNECEK ...!"_s, {}, MessageAnswer::Yes);

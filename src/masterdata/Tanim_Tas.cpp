@@ -68,6 +68,11 @@ bool Tanim_Tas::writeRow()
     });
 }
 
+QString Tanim_Tas::savedWhat() const
+{
+    return m_ui->Taskodu->text() + u" taşı"_s;
+}
+
 bool Tanim_Tas::mayRemove()
 {
     return ask(m_ui->Taskodu->text() + u" SİLİNECEK. ONAYLIYORMUSUNUZ.?"_s, {}, MessageAnswer::No);

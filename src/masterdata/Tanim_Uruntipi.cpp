@@ -83,6 +83,11 @@ bool Tanim_Uruntipi::writeRow()
     });
 }
 
+QString Tanim_Uruntipi::savedWhat() const
+{
+    return m_ui->UrunTipi->text() + u" ürün tipi"_s;
+}
+
 bool Tanim_Uruntipi::mayRemove()
 {
     return ask(m_ui->TipID->text() + u" SİLİNECEK. ONAYLIYORMUSUNUZ.?"_s, {}, MessageAnswer::No);

@@ -25,6 +25,7 @@ private:
     bool mayWrite() override;
     QList<RecordRows> recordRows() const override;
     bool writeRow() override;
+    QString savedWhat() const override;
     bool mayRemove() override;
     bool removeRow() override;
     double TipID() const;

@@ -5,6 +5,7 @@
 #include "Guarded.h"
 #include "KurModel.h"
 #include "Oturum.h"
+#include "SavedLine.h"
 #include "SaveOver.h"
 #include "Theme.h"
 #include "ui_Giris_Kur.h"
@@ -21,7 +22,8 @@ Giris_Kur::Giris_Kur(const ScreenContext &context, QSettings &settings, QWidget 
       m_settings(settings),
       m_store(context.oturum),
       m_ui(std::make_unique<Ui::Giris_Kur>()),
-      m_model(new KurModel(this))
+      m_model(new KurModel(this)),
+      m_saved(new SavedLine(this))
 {
     m_ui->setupUi(this);
     setUpLook();
@@ -61,6 +63,8 @@ void Giris_Kur::connectControls()
     bind(m_ui->Sil_Cmd, &Giris_Kur::remove);
     bind(m_ui->Geri_Cmd, &Giris_Kur::abandon);
     bind(m_ui->Son_Cmd, &Giris_Kur::reject);
+    m_saved->standAboveButtons(*m_ui->layout);
+    m_saved->goWith(*m_ui->Tarih);
     connect(m_ui->Check_Alis, &QCheckBox::toggled, this, &Giris_Kur::keepBuyingRates);
     connect(m_ui->KurGrid, &RateGrid::finished, this,
             [this] { m_ui->Kayit_Cmd->setFocus(Qt::TabFocusReason); });
@@ -180,6 +184,7 @@ void Giris_Kur::KurGoster()
     m_opened = rows;
     m_ui->Tarih->setDate(date);
     m_ui->kurNotu->setText(note);
+    m_saved->forget();
     m_model->fill(rows);
     setEntering(true);
     m_ui->Sil_Cmd->setEnabled(hasOwn);
@@ -210,18 +215,23 @@ void Giris_Kur::pickDate()
 void Giris_Kur::save()
 {
     m_ui->KurGrid->finishEdit();
-    store([this](LoadedRows &loaded) {
+    const QString what = formatDate(m_date) + u" kurları"_s;
+    const bool saved = store([this](LoadedRows &loaded) {
         m_store.save(m_date, m_model->satirlar(), m_model->alisKurlari(), loaded);
     });
+    if (saved)
+        m_saved->tell(what);
 }
 
-void Giris_Kur::store(const std::function<void(LoadedRows &)> &write)
+/// Back to the date when it was written; whether it was.
+bool Giris_Kur::store(const std::function<void(LoadedRows &)> &write)
 {
     const SaveEnd end = saveOver(m_context.messages, this, m_loaded, write);
     if (end == SaveEnd::Theirs || end == SaveEnd::Gone)
         KurGoster();
     else if (end == SaveEnd::Done)
         enterDate();
+    return end == SaveEnd::Done;
 }
 
 void Giris_Kur::remove()

@@ -8,6 +8,7 @@
 
 class KurModel;
 class QSettings;
+class SavedLine;
 
 namespace Ui {
 class Giris_Kur;
@@ -50,7 +51,7 @@ private:
     QString noteOn(QDate Tarih, bool hasOwn) const;
     void pickDate();
     void save();
-    void store(const std::function<void(LoadedRows &)> &write);
+    bool store(const std::function<void(LoadedRows &)> &write);
     void remove();
     void keepBuyingRates(bool on);
     QString buyingRatesKey() const;
@@ -60,6 +61,7 @@ private:
     KurStore m_store;
     std::unique_ptr<Ui::Giris_Kur> m_ui;
     KurModel *m_model;
+    SavedLine *m_saved;
     LoadedRows m_loaded;       ///< the rates as they stood when they were shown
     QDate m_date;              ///< whose rates stand in the grid
     QList<KurSatiri> m_opened; ///< the rates as they were shown

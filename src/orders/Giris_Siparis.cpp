@@ -6,6 +6,7 @@
 #include "Numbers.h"
 #include "OrderCode.h"
 #include "Oturum.h"
+#include "SavedLine.h"
 #include "ScannedNumber.h"
 #include "SiparisModel.h"
 #include "Theme.h"
@@ -25,7 +26,8 @@ Giris_Siparis::Giris_Siparis(const ScreenContext &context, QSettings &settings,
       m_store(context.oturum),
       m_lookups(context.oturum),
       m_ui(std::make_unique<Ui::Giris_Siparis>()),
-      m_model(new SiparisModel(this))
+      m_model(new SiparisModel(this)),
+      m_saved(new SavedLine(this))
 {
     m_ui->setupUi(this);
     m_ui->Rapor->setSiparisModel(m_model);
@@ -112,6 +114,8 @@ void Giris_Siparis::connectControls()
     bind(m_ui->LabelAdet, &Giris_Siparis::nextAdet);
     for (QCheckBox *box : {m_ui->Check_Kisaad, m_ui->Check_Kod, m_ui->Check_AD, m_ui->Check_Resim})
         connect(box, &QCheckBox::clicked, this, &Giris_Siparis::keepSlipChoice);
+    m_saved->standAboveButtons(*m_ui->layout);
+    m_saved->goWith(*m_ui->Sipnum);
     keepNumeric(*m_ui->Sipnum, m_context.messages);
     m_ui->Sipnum->setMaxLength(orderNumberLength);
     const auto isOrderCode = [](const QString &text) { return readOrderCode(text).has_value(); };
@@ -136,6 +140,11 @@ void Giris_Siparis::connectGrid()
                 if (current.isValid())
                     ResimGoster(current.row(), PictureError::Skip);
             });
+    // Whether the lines without a cell can be saved goes by their rows.
+    connect(m_model, &SiparisModel::dataChanged, this, [this] {
+        if (m_ui->keptLinesNote->isVisible())
+            guarded(m_context.messages, this, [this] { tellKeptLines(); });
+    });
     connect(m_modelEntry, &ModelEntry::modelTaken, this,
             [this](int row) { ResimGoster(row, PictureError::Tell); });
     connect(m_modelEntry, &ModelEntry::warning, this,
@@ -158,7 +167,7 @@ void Giris_Siparis::keyPressEvent(QKeyEvent *event)
 /// no control takes as typed goes into the grid, from the first digit on.
 bool Giris_Siparis::takeScanPastControls(QKeyEvent *event)
 {
-    const bool digit = typesCharacter(*event) && event->text().front().isDigit();
+    const bool digit = typesCharacter(*event) && isDecimalDigit(event->text().front());
     if (!digit || !m_ui->Check_HizliGiris->isChecked() || !isEditing() || m_ui->Rapor->hasFocus())
         return false;
     m_ui->Rapor->goToEmptyRow();
@@ -182,6 +191,8 @@ void Giris_Siparis::enterPressed()
         FirmaBul();
     else if (auto *button = qobject_cast<QAbstractButton *>(from))
         button->click();
+    if (from == m_ui->Ayar && !karatFits())
+        return;
     for (const auto &[here, next] : way) {
         if (from == here)
             next->setFocus(Qt::TabFocusReason);
@@ -237,6 +248,7 @@ void Giris_Siparis::TusKapa()
 void Giris_Siparis::TusAC()
 {
     setEditing(true);
+    m_saved->forget();
     m_opened = collect();
 }
 

@@ -12,6 +12,7 @@
 
 class ModelEntry;
 class QSettings;
+class SavedLine;
 class SiparisModel;
 
 namespace Ui {
@@ -90,6 +91,7 @@ private:
     // Saving
     Siparis collect() const;
     bool check(const Siparis &siparis);
+    bool karatFits();
     void showFault(const OrderFault &fault);
     bool holdsOwnNumber();
     void showNumber(const Siparis &siparis);
@@ -97,7 +99,8 @@ private:
     void saveAsNew();
     void takeStored();
     void removeOrder();
-    void afterSave(const Siparis &siparis);
+    void afterSave(const Siparis &siparis, const QString &kind);
+    QString removalQuestion() const;
 
     void openReport(const OrderReportOpener &report);
 
@@ -118,6 +121,7 @@ private:
     std::unique_ptr<Ui::Giris_Siparis> m_ui;
     SiparisModel *m_model;
     ModelEntry *m_modelEntry;
+    SavedLine *m_saved;
     OrderCustomer m_customer;    ///< the customer on the screen
     qint32 m_stored = 0;         ///< the stored order that the screen holds; 0: none
     Siparis m_opened;            ///< the screen as it was opened

@@ -2,6 +2,7 @@
 
 #include "Dates.h"
 #include "Guarded.h"
+#include "KeptLinesNote.h"
 #include "ModelEntry.h"
 #include "Numbers.h"
 #include "OrderCode.h"
@@ -95,19 +96,10 @@ void Giris_Siparis::SiparisDoldur(const Siparis &siparis)
 /// Tells of the order's lines that have no place in the grid.
 void Giris_Siparis::tellKeptLines()
 {
-    constexpr qsizetype mostNamed = 5;
-    const QList<KeptLine> lines = collect().allKeptLines();
-    QStringList names;
-    for (const KeptLine &line : lines.first(std::min(mostNamed, lines.size()))) {
-        names.append(u"%1 %2, %3 adet"_s.arg(line.model, line.renk, QString::number(line.adet)));
-    }
-    if (lines.size() > mostNamed)
-        names.append(u"..."_s);
-    m_ui->keptLinesNote->setText(
-        u"Rengi, ürün tipi ya da modeli tanımlı olmayan %1 satır tabloda gösterilemiyor (%2). "
-        "Kaydederken olduğu gibi saklanır."_s.arg(QString::number(lines.size()),
-                                                  names.join(u"; "_s)));
-    m_ui->keptLinesNote->setVisible(!lines.isEmpty());
+    const QString note = keptLinesNote(
+        collect(), [this](const QString &model) { return m_lookups.hasModel(model); });
+    m_ui->keptLinesNote->setText(note);
+    m_ui->keptLinesNote->setVisible(!note.isEmpty());
 }
 
 // The customer
@@ -180,7 +172,7 @@ void Giris_Siparis::removeRow(int row)
         return;
     }
     if (!m_context.messages.ask(this, satir.model + u" LİSTEDEN ÇIKARILACAK..."_s,
-                                MessageIcon::Exclamation))
+                                MessageIcon::Exclamation, {}, MessageAnswer::No))
         return;
     const int column = m_ui->Rapor->currentIndex().column();
     if (m_model->rowCount() > 1) {

@@ -89,7 +89,8 @@ void Giris_Siparis::nextAdet()
 
 void Giris_Siparis::print()
 {
-    if (m_ui->Rapor->finishEdit() && holdDates({m_ui->SipTrh, m_ui->TesTrh}, m_context.messages))
+    if (m_ui->Rapor->finishEdit() && holdDates({m_ui->SipTrh, m_ui->TesTrh}, m_context.messages) &&
+        karatFits())
         showSlip(collect());
 }
 

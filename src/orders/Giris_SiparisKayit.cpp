@@ -2,8 +2,10 @@
 
 #include "Dates.h"
 #include "Guarded.h"
+#include "NumberRange.h"
 #include "Numbers.h"
 #include "Oturum.h"
+#include "SavedLine.h"
 #include "SaveOver.h"
 #include "SiparisModel.h"
 #include "ui_Giris_Siparis.h"
@@ -32,12 +34,33 @@ Siparis Giris_Siparis::collect() const
     return siparis;
 }
 
+/// Whether a karat that was typed can be stored as it stands. If not, says so
+/// and goes there. One that was stored by something else may stay.
+bool Giris_Siparis::karatFits()
+{
+    const double Ayar = leadingNumber(m_ui->Ayar->text());
+    if (Ayar == 0 || Ayar == m_opened.Ayar)
+        return true;
+    const TableDef header = m_context.oturum.Veritabani->tableDef(u"SiparisB"_s);
+    const FieldDef *field = header.field(u"Ayar");
+    const QString why = field == nullptr ? QString() : whyKaratDoesNotFit(*field, Ayar);
+    if (why.isEmpty())
+        return true;
+    m_context.messages.say(this, u"Ayar "_s + why, MessageIcon::Exclamation, u"HATA"_s);
+    m_ui->Ayar->setFocus(Qt::OtherFocusReason);
+    m_ui->Ayar->selectAll();
+    return false;
+}
+
 bool Giris_Siparis::check(const Siparis &siparis)
 {
     if (!holdDates({m_ui->SipTrh, m_ui->TesTrh}, m_context.messages))
         return false;
     const auto defined = [this](const QString &model) { return m_lookups.hasModel(model); };
     const std::optional<OrderFault> fault = checkOrder(siparis, defined);
+    const bool customerFirst = fault && fault->alan == OrderFault::Field::FirAdi;
+    if (!customerFirst && !karatFits())
+        return false;
     if (fault)
         showFault(*fault);
     return !fault;
@@ -106,7 +129,7 @@ void Giris_Siparis::save()
         m_context.messages.say(this, u"SİPARİŞ BAŞLIK KAYDINA ULAŞILAMIYOR..."_s,
                                MessageIcon::Critical, u"HATA"_s);
     else if (end == SaveEnd::Done)
-        afterSave(siparis);
+        afterSave(siparis, u"sipariş"_s);
     else if (end != SaveEnd::Back)
         takeStored();
 }
@@ -148,10 +171,10 @@ void Giris_Siparis::saveAsNew()
         throw;
     }
     showNumber(siparis);
-    afterSave(siparis);
+    afterSave(siparis, u"yeni sipariş"_s);
 }
 
-void Giris_Siparis::afterSave(const Siparis &siparis)
+void Giris_Siparis::afterSave(const Siparis &siparis, const QString &kind)
 {
     guarded(m_context.messages, this, [&] {
         if (m_context.messages.ask(this, u"SİPARİŞ LİSTESİ ALINSIN ..!"_s,
@@ -159,12 +182,24 @@ void Giris_Siparis::afterSave(const Siparis &siparis)
             showSlip(siparis);
     });
     TusKapa();
+    m_saved->tell(u"%1 nolu %2"_s.arg(QString::number(siparis.Sipnum), kind));
+}
+
+/// The question, and what goes with the order.
+QString Giris_Siparis::removalQuestion() const
+{
+    const SiparisBoyu boyut = m_store.boyut(m_stored);
+    return m_ui->Sipnum->text() + u" NOLU SİPARİŞ SİLİNECEK.\n\nMüşteri: %1\nAdet: %2 (%3 satır)\n"
+                                  "Üretimde olan satır: %4"_s.arg(m_opened.FirAdi.trimmed(),
+                                                                  QString::number(boyut.adet),
+                                                                  QString::number(boyut.satir),
+                                                                  QString::number(boyut.uretimde));
 }
 
 void Giris_Siparis::removeOrder()
 {
-    if (!m_context.messages.ask(this, m_ui->Sipnum->text() + u" NOLU SİPARİŞ SİLİNECEK."_s,
-                                MessageIcon::Exclamation, {}, MessageAnswer::No))
+    if (!m_context.messages.ask(this, removalQuestion(), MessageIcon::Exclamation, {},
+                                MessageAnswer::No))
         return;
     const SaveEnd end = saveOver(m_context.messages, this, m_loaded,
                                  [&](LoadedRows &loaded) { m_store.remove(m_stored, loaded); });

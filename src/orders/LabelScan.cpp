@@ -1,5 +1,6 @@
 #include "LabelScan.h"
 
+#include "Numbers.h"
 #include "ProductLabel.h"
 
 #include <QKeyEvent>
@@ -16,7 +17,7 @@ std::optional<LabelScan::Label> LabelScan::take(const QKeyEvent &key,
     // The keyboard's time, not ours: keys that had to wait arrive all at once.
     if (!m_digits.isEmpty() && key.timestamp() - m_digits.last().pressed > longestGapMs)
         m_digits.clear();
-    if (key.text().size() != 1 || !key.text().front().isDigit()) {
+    if (key.text().size() != 1 || !isDecimalDigit(key.text().front())) {
         m_digits.clear();
         return std::nullopt;
     }

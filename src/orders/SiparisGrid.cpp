@@ -2,6 +2,7 @@
 
 #include "CellEditors.h"
 #include "EntryControls.h"
+#include "Numbers.h"
 #include "OrderCellDelegate.h"
 #include "ProductLabel.h"
 #include "SiparisModel.h"
@@ -185,7 +186,7 @@ void SiparisGrid::startEditor(const QModelIndex &cell, const QString &typed)
 bool SiparisGrid::startsEditor(const QKeyEvent *event) const
 {
     return typesCharacter(*event) && m_model->isOpen(currentIndex()) &&
-           (!m_model->isQuantity(currentIndex().column()) || event->text().front().isDigit());
+           (!m_model->isQuantity(currentIndex().column()) || isDecimalDigit(event->text().front()));
 }
 
 void SiparisGrid::keyPressEvent(QKeyEvent *event)

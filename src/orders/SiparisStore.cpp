@@ -236,6 +236,19 @@ QList<KeptLine> SiparisStore::otherLines(qint32 Sipnum, const QList<qint32> &sho
     return others;
 }
 
+SiparisBoyu SiparisStore::boyut(qint32 Sipnum) const
+{
+    Recordset Kayit =
+        m_oturum->sorgula(u"Select * From SiparisD Where SipnumD = "_s + sqlNumber(Sipnum));
+    SiparisBoyu boyut;
+    while (Kayit.next()) {
+        ++boyut.satir;
+        boyut.adet += Kayit.integer(u"SipAdet");
+        boyut.uretimde += stateOf(Kayit).hasBegun() ? 1 : 0;
+    }
+    return boyut;
+}
+
 std::optional<qint32> SiparisStore::headerCustomer(double Sipnum) const
 {
     Recordset Kayit =

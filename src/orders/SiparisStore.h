@@ -10,6 +10,13 @@ struct OrderLine;
 
 /// The lines of an order, for whoever changes them.
 RecordRows orderLineRows(Database &db, qint32 Sipnum);
+/// How much there is of an order.
+struct SiparisBoyu
+{
+    int satir = 0;
+    qint64 adet = 0;
+    int uretimde = 0; ///< lines whose production has begun
+};
 
 /// Finds, saves and removes orders. Everything throws DatabaseError.
 class SiparisStore
@@ -27,6 +34,8 @@ public:
     std::optional<Siparis> baslikBul(qint32 Sipnum) const;
     /// The order's lines besides those with these numbers.
     QList<KeptLine> otherLines(qint32 Sipnum, const QList<qint32> &shownLines) const;
+    /// What is stored of the order's lines, shown or not.
+    SiparisBoyu boyut(qint32 Sipnum) const;
     /// The customer code in a stored header; nothing when there is no header.
     std::optional<qint32> headerCustomer(double Sipnum) const;
 

@@ -5,9 +5,9 @@
 #include "TurkishText.h"
 
 #include <algorithm>
+#include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPointer>
@@ -110,25 +110,25 @@ void selectOnEntry(QLineEdit &box)
     box.installEventFilter(new EntrySelection(&box));
 }
 
-bool leavesForGood(const QEvent &event)
+std::optional<TypedEntry> findTyped(const QComboBox &list, const QString &typedBefore,
+                                    const QString &text)
 {
-    if (event.type() != QEvent::FocusOut)
-        return false;
-    const Qt::FocusReason reason = static_cast<const QFocusEvent &>(event).reason();
-    return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason;
+    for (const QString &typed : {typedBefore + text, text}) {
+        for (int i = 0; i < list.count(); ++i) {
+            if (searchKey(list.itemText(i)).startsWith(searchKey(typed)))
+                return TypedEntry{i, typed};
+        }
+    }
+    return std::nullopt;
 }
 
 QString chooseTyped(QComboBox &list, const QString &typedBefore, const QString &text)
 {
-    for (const QString &typed : {typedBefore + text, text}) {
-        for (int i = 0; i < list.count(); ++i) {
-            if (searchKey(list.itemText(i)).startsWith(searchKey(typed))) {
-                list.setCurrentIndex(i);
-                return typed;
-            }
-        }
-    }
-    return typedBefore;
+    const std::optional<TypedEntry> found = findTyped(list, typedBefore, text);
+    if (!found)
+        return typedBefore;
+    list.setCurrentIndex(found->index);
+    return found->typed;
 }
 
 bool typesCharacter(const QKeyEvent &event)
@@ -142,6 +142,16 @@ bool typesCharacter(const QKeyEvent &event)
 bool isEnter(const QKeyEvent &event)
 {
     return event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+}
+
+bool leavesForGood(const QEvent &event)
+{
+    if (event.type() != QEvent::FocusOut)
+        return false;
+    const Qt::FocusReason reason = static_cast<const QFocusEvent &>(event).reason();
+    // Entries that drop open take the focus a second time, for another reason.
+    return reason != Qt::PopupFocusReason && reason != Qt::ActiveWindowFocusReason &&
+           QApplication::activePopupWidget() == nullptr;
 }
 
 namespace {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <QString>
 
 class Messages;
@@ -33,18 +34,28 @@ void TumunuSec(QLineEdit &box);
 /// from another window or from the box's menu does not count: the cursor stays.
 void selectOnEntry(QLineEdit &box);
 
-/// Whether an event takes the focus to another control of the window. A box, a
-/// menu or another window in front does not mean that an entry is finished.
-bool leavesForGood(const QEvent &event);
-
-/// Chooses the first entry that begins with what was typed so far and now, or
-/// else with what was typed now; returns what counts as typed so far.
+/// An entry of a list, and what counts as typed so far to reach it.
+struct TypedEntry
+{
+    int index;
+    QString typed;
+};
+/// The first entry that begins with what was typed so far and now, or else
+/// with what was typed now. Letter case does not count, and i, ı, I and İ find
+/// each other.
+std::optional<TypedEntry> findTyped(const QComboBox &list, const QString &typedBefore,
+                                    const QString &text);
+/// Chooses that entry; returns what counts as typed so far.
 QString chooseTyped(QComboBox &list, const QString &typedBefore, const QString &text);
 
 /// Whether a key press types a character.
 bool typesCharacter(const QKeyEvent &event);
 /// Whether a key press is Enter's, on either part of the keyboard.
 bool isEnter(const QKeyEvent &event);
+/// Whether an event takes the focus to another control of the window. A box, a
+/// menu, a list's own entries or another window in front does not mean that an
+/// entry is finished.
+bool leavesForGood(const QEvent &event);
 /// Lets an Enter that is held down press the button but once.
 void ignoreHeldEnter(QPushButton &button);
 /// Keeps Alt with the letter of a button that is grey from typing the letter

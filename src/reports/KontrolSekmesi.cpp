@@ -3,9 +3,11 @@
 #include "Dates.h"
 #include "EntryControls.h"
 #include "Guarded.h"
+#include "KeptLinesNote.h"
 #include "Numbers.h"
 #include "OrderCode.h"
 #include "Oturum.h"
+#include "SavedLine.h"
 #include "SaveOver.h"
 #include "ScannedNumber.h"
 #include "StoppableWork.h"
@@ -20,25 +22,13 @@
 
 using namespace Qt::StringLiterals;
 
-/// The first of the lines, for a text.
-template <typename Line>
-static QString lineNames(const QList<Line> &lines)
-{
-    constexpr qsizetype mostNamed = 5;
-    QStringList names;
-    for (const Line &line : lines.first(std::min(mostNamed, lines.size())))
-        names.append(u"%1 %2, %3 adet"_s.arg(line.model, line.renk, QString::number(line.adet)));
-    if (lines.size() > mostNamed)
-        names.append(u"..."_s);
-    return names.join(u"; "_s);
-}
-
 KontrolSekmesi::KontrolSekmesi(const ScreenContext &context, QWidget *parent)
     : QWidget(parent),
       m_context(context),
       m_takip(context.oturum),
       m_ui(std::make_unique<Ui::KontrolSekmesi>()),
-      m_model(new TakipModel(this))
+      m_model(new TakipModel(this)),
+      m_saved(new SavedLine(this))
 {
     m_ui->setupUi(this);
     m_ui->modelPaneli->setOturum(context.oturum);
@@ -81,6 +71,8 @@ void KontrolSekmesi::connectControls()
     bind(m_ui->CmdListe1, &KontrolSekmesi::pickOrder);
     bind(m_ui->cmdKayit1, &KontrolSekmesi::save);
     bind(m_ui->cmdVazgec1, &KontrolSekmesi::clearTab);
+    m_saved->standAboveButtons(*m_ui->layout);
+    m_saved->goWith(*m_ui->Sipnum);
     keepNumeric(*m_ui->Sipnum, m_context.messages);
     m_ui->Sipnum->setMaxLength(orderNumberLength);
     const auto isOrderCode = [](const QString &text) { return readOrderCode(text).has_value(); };
@@ -201,6 +193,7 @@ void KontrolSekmesi::SiparisDoldur(const TakipSiparisi &siparis)
     m_model->fill(siparis.satirlar);
     m_ui->Rapor1->horizontalHeader()->setSortIndicatorShown(false);
     tellHiddenLines(siparis.gizliSatirlar);
+    m_saved->forget();
     setOpen(true);
     m_ui->Rapor1->setCurrentIndex(m_model->index(0, TakipModel::SipDur));
     m_ui->Rapor1->setFocus();
@@ -211,7 +204,7 @@ void KontrolSekmesi::tellHiddenLines(const QList<KeptLine> &lines)
 {
     m_ui->gizliNotu->setText(
         u"Rengi ya da ürün tipi tanımlı olmayan %1 satır gösterilemiyor (%2). "
-        "Kaydederken olduğu gibi kalır."_s.arg(QString::number(lines.size()), lineNames(lines)));
+        "Kaydederken olduğu gibi kalır."_s.arg(QString::number(lines.size()), namesOf(lines)));
     m_ui->gizliNotu->setVisible(!lines.isEmpty());
 }
 
@@ -258,8 +251,11 @@ void KontrolSekmesi::save()
     }
     tellMissing(sonuc.kayip);
     // What was not written, since it failed or the user stopped, stands only here.
-    if (end == SaveEnd::Done && sonuc.ended && sonuc.kayip.isEmpty() && !failed)
+    if (end == SaveEnd::Done && sonuc.ended && sonuc.kayip.isEmpty() && !failed) {
+        const QString what = u"%1 nolu siparişin satırları"_s.arg(m_Sipnum);
         clearTab();
+        m_saved->tell(what);
+    }
 }
 
 /// Tells of lines that another save of the order took away or changed so that
@@ -268,12 +264,15 @@ void KontrolSekmesi::tellMissing(const QList<TakipSatiri> &lines)
 {
     if (lines.isEmpty())
         return;
+    QList<KeptLine> missing;
+    for (const TakipSatiri &line : lines)
+        missing.append({line.Dotosayi, line.model, line.renk, line.adet, line.state});
     m_context.messages.say(
         this,
         u"Sipariş bu arada başka bir yerde değiştirilmiş; şu satırlar artık bulunamıyor ya da "
         "birbirinden ayırt edilemiyor, değişiklikleri kaydedilemedi:\n\n%1\n\nYazdıklarınız "
         "ekranda duruyor. Siparişin şimdiki hali için vazgeçip siparişi yeniden açın."_s.arg(
-            lineNames(lines)),
+            namesOf(missing)),
         MessageIcon::Exclamation);
 }
 

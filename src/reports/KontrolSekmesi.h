@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QWidget>
 
+class SavedLine;
 class TakipModel;
 struct OrderNumberEntry;
 
@@ -52,6 +53,7 @@ private:
     SiparisTakip m_takip;
     std::unique_ptr<Ui::KontrolSekmesi> m_ui;
     TakipModel *m_model;
+    SavedLine *m_saved;
     LoadedRows m_loaded; ///< its lines as they stood when it was opened
     qint32 m_Sipnum = 0; ///< the order on the tab; 0: none
     QTimer m_modelTimer; ///< a held arrow key passes lines without showing each

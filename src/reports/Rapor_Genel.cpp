@@ -72,7 +72,7 @@ void Rapor_Genel::showTab()
 void Rapor_Genel::reject()
 {
     guarded(m_context.messages, this, [this] {
-        if (m_kontrol->mayLeave())
+        if (m_kontrol->mayLeave() && m_uretim->mayLeave())
             QDialog::reject();
     });
 }

@@ -7,9 +7,12 @@
 #include "ListCellDelegate.h"
 #include "ListHeading.h"
 #include "Messages.h"
+#include "Numbers.h"
 #include "TakipModel.h"
 #include "Twips.h"
 
+#include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QScrollBar>
@@ -44,8 +47,10 @@ TakipGrid::TakipGrid(QWidget *parent)
         editor->hide();
         editor->installEventFilter(this);
     }
-    for (ChoiceBox *list : {cmbTas, cmbTas1})
+    for (ChoiceBox *list : {cmbTas, cmbTas1}) {
         connect(list, &ChoiceBox::chosen, this, &TakipGrid::take);
+        list->view()->installEventFilter(this);
+    }
     setItemDelegate(new ListCellDelegate(this));
     setEditTriggers(NoEditTriggers);
     setSelectionMode(ContiguousSelection);
@@ -58,8 +63,10 @@ TakipGrid::TakipGrid(QWidget *parent)
     horizontalHeader()->setSectionsClickable(true);
     connect(horizontalHeader(), &QHeaderView::sectionClicked, this, &TakipGrid::sortBy);
     connect(horizontalHeader(), &QHeaderView::sectionResized, this, &TakipGrid::placeEditor);
-    connect(this, &QTableView::doubleClicked, this,
-            [this](const QModelIndex &cell) { openEditor(cell); });
+    connect(this, &QTableView::doubleClicked, this, [this](const QModelIndex &cell) {
+        m_buttonDown = true;
+        openEditor(cell);
+    });
     for (const QScrollBar *bar : {verticalScrollBar(), horizontalScrollBar()})
         connect(bar, &QScrollBar::valueChanged, this, &TakipGrid::placeEditor);
 }
@@ -160,13 +167,38 @@ void TakipGrid::openEditor(const QModelIndex &cell, const QString &typed)
 void TakipGrid::openList(QComboBox *list, const QString &typed)
 {
     m_editor = list;
-    m_typed.clear();
     list->setCurrentIndex(list->findText(m_cell.data().toString(), Qt::MatchFixedString));
-    if (!typed.isEmpty())
-        m_typed = chooseTyped(*list, {}, typed);
     placeEditor();
     list->show();
     list->setFocus();
+    if (!m_buttonDown)
+        dropDown(typed);
+}
+
+/// Opens the entries of the status list, at what is typed. Without a choice in
+/// it none of them is marked, so that Enter takes none unseen.
+void TakipGrid::dropDown(const QString &typed)
+{
+    auto *list = qobject_cast<QComboBox *>(m_editor);
+    if (list == nullptr)
+        return;
+    list->showPopup();
+    if (list->currentIndex() < 0) {
+        list->view()->setCurrentIndex({});
+        list->view()->clearSelection();
+    }
+    if (typed.isEmpty())
+        return;
+    QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, typed);
+    QCoreApplication::sendEvent(list->view(), &press);
+}
+
+/// Entries that open while the button is still down close when it is let go.
+void TakipGrid::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTableView::mouseReleaseEvent(event);
+    if (std::exchange(m_buttonDown, false))
+        dropDown();
 }
 
 void TakipGrid::openDate(const QString &typed)
@@ -262,12 +294,15 @@ void TakipGrid::keyPressEvent(QKeyEvent *event)
         Q_EMIT abandoned();
     else if (!typesCharacter(*event))
         QTableView::keyPressEvent(event);
-    else if (!TakipModel::isDate(cell.column()) || event->text().front().isDigit())
+    else if (!TakipModel::isDate(cell.column()) || isDecimalDigit(event->text().front()))
         openEditor(cell, event->text());
 }
 
 bool TakipGrid::eventFilter(QObject *watched, QEvent *event)
 {
+    if (const auto *list = qobject_cast<QComboBox *>(m_editor);
+        list != nullptr && watched == list->view())
+        return event->type() == QEvent::KeyPress && entriesKey(static_cast<QKeyEvent *>(event));
     if (m_editor == nullptr || watched != m_editor)
         return QTableView::eventFilter(watched, event);
     if (event->type() == QEvent::KeyPress)
@@ -276,6 +311,21 @@ bool TakipGrid::eventFilter(QObject *watched, QEvent *event)
     if (leavesForGood(*event))
         abandonEdit();
     return false;
+}
+
+/// A key in the open entries of a status list.
+bool TakipGrid::entriesKey(const QKeyEvent *event)
+{
+    auto *list = static_cast<QComboBox *>(m_editor);
+    // Still held from what opened them.
+    if (event->isAutoRepeat() && (isEnter(*event) || event->key() == Qt::Key_Escape))
+        return true;
+    const bool takesNone = isEnter(*event) && !list->view()->currentIndex().isValid();
+    if (event->key() != Qt::Key_Escape && !takesNone)
+        return false;
+    list->hidePopup();
+    abandonEdit();
+    return true;
 }
 
 bool TakipGrid::editorKey(QKeyEvent *event)
@@ -290,6 +340,6 @@ bool TakipGrid::editorKey(QKeyEvent *event)
     }
     if (m_editor == trhEdit || !typesCharacter(*event))
         return false;
-    m_typed = chooseTyped(*static_cast<QComboBox *>(m_editor), m_typed, event->text());
+    dropDown(event->text());
     return true;
 }

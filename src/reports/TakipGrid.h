@@ -21,8 +21,9 @@ struct TakipDuzeni
 };
 
 /// The order control grid `Rapor1`. For who may edit, a double click, Enter,
-/// F2 or typing on a status or date opens an editor over the cell. Who may not
-/// can empty such a cell with Delete, and only he.
+/// F2 or typing on a status or date opens an editor over the cell, a status
+/// with its entries dropped open. Who may not can empty such a cell with
+/// Delete, and only he.
 class TakipGrid : public QTableView
 {
     Q_OBJECT
@@ -46,6 +47,7 @@ Q_SIGNALS:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
@@ -56,7 +58,9 @@ private:
     void openEditor(const QModelIndex &cell, const QString &typed = {});
     void openList(QComboBox *list, const QString &typed);
     void openDate(const QString &typed);
+    void dropDown(const QString &typed = {});
     bool editorKey(QKeyEvent *event);
+    bool entriesKey(const QKeyEvent *event);
     void placeEditor();
     void take();
 
@@ -68,5 +72,5 @@ private:
     DateBox *trhEdit;
     QWidget *m_editor = nullptr;  ///< the open one
     QPersistentModelIndex m_cell; ///< that it stands over
-    QString m_typed;              ///< so far, to choose from a list
+    bool m_buttonDown = false;    ///< since the double click that opened the editor
 };

@@ -6,13 +6,14 @@
 #include "Guarded.h"
 #include "ListHeading.h"
 #include "LookupModel.h"
+#include "MarkedRowDelegate.h"
 #include "ModelPaneli.h"
 #include "Numbers.h"
 #include "Oturum.h"
 #include "Rapor_Satirlar.h"
 #include "ReadingProgress.h"
-#include "SecimDelegate.h"
 #include "SecimModeli.h"
+#include "Theme.h"
 #include "Twips.h"
 #include "ui_UretimSekmesi.h"
 
@@ -40,6 +41,10 @@ UretimSekmesi::UretimSekmesi(const RaporContext &context, QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->modelPaneli->setOturum(context.oturum);
+    QPalette warning = palette();
+    warning.setColor(QPalette::WindowText, themeColors(warning).mark);
+    m_ui->gizliNotu->setPalette(warning);
+    m_ui->gizliNotu->hide();
     setUpFilters();
     setUpList();
     connectControls();
@@ -67,7 +72,7 @@ void UretimSekmesi::setUpList()
 {
     QTableView *list = m_ui->Rapor0;
     list->setModel(m_secim);
-    list->setItemDelegate(new SecimDelegate(list));
+    list->setItemDelegate(new MarkedRowDelegate(Qt::BackgroundRole, list));
     list->setHorizontalHeader(new ListHeading(list));
     list->installEventFilter(this);
     list->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -101,7 +106,10 @@ void UretimSekmesi::connectControls()
     connect(m_siparisler, &LookupModel::failed, this, [this, &messages](const QString &reason) {
         messages.say(this, reason, MessageIcon::Critical, u"HATA"_s);
     });
-    connect(m_secim, &SecimModeli::secimChanged, this, &UretimSekmesi::showSelection);
+    connect(m_secim, &SecimModeli::secimChanged, this, [this, &messages] {
+        showSelection();
+        guarded(messages, this, [this] { tellHiddenLines(); });
+    });
     connect(m_ui->Arama, &QLineEdit::textChanged, m_siparisler, &LookupModel::narrow);
     for (DateBox *date : {m_ui->Trh00, m_ui->Trh01}) {
         keepDate(*date, messages);
@@ -112,6 +120,23 @@ void UretimSekmesi::connectControls()
     connect(m_ui->CmbYazdir0, &ChoiceBox::chosen, this, &UretimSekmesi::print);
 }
 
+bool UretimSekmesi::mayLeave()
+{
+    const QList<qint32> marked = markedOrders();
+    return marked.isEmpty() || marked == m_printed ||
+           m_context.messages.ask(
+               this, u"SEÇİLEN %1 SİPARİŞ YAZDIRILMADI, ÇIKILSIN MI ?"_s.arg(marked.size()),
+               MessageIcon::Exclamation, {}, MessageAnswer::No);
+}
+
+QList<qint32> UretimSekmesi::markedOrders() const
+{
+    QList<qint32> marked;
+    for (const SecilenSiparis &siparis : m_secim->secim())
+        marked.append(siparis.Sipnum);
+    return marked;
+}
+
 void UretimSekmesi::focusFirst()
 {
     m_ui->Rapor0->setFocus();
@@ -120,8 +145,13 @@ void UretimSekmesi::focusFirst()
 // Keys
 
 /// Enter goes on from filter to filter, and prints on the choice of the sheet.
+/// Escape takes the search back before it closes the screen.
 void UretimSekmesi::keyPressEvent(QKeyEvent *event)
 {
+    if (event->key() == Qt::Key_Escape && !m_ui->Arama->text().isEmpty()) {
+        m_ui->Arama->clear();
+        return;
+    }
     if (!isEnter(*event)) {
         QWidget::keyPressEvent(event);
         return;
@@ -229,6 +259,24 @@ void UretimSekmesi::showSelection()
 
 // The current order
 
+/// Tells of the order lines that the dates keep out of the table and the sheet.
+void UretimSekmesi::tellHiddenLines()
+{
+    QStringList notes;
+    const GizliSatirlar shown = m_store.gizliSatirlar({m_Sipnum}, filtre());
+    if (shown.toplam() > 0) {
+        notes.append(u"Siparişin %1 satırı tabloda gösterilmiyor: %2."_s.arg(
+            QString::number(shown.toplam()), shown.nedenler()));
+    }
+    const GizliSatirlar printed = m_store.gizliSatirlar(markedOrders(), filtre());
+    if (printed.toplam() > 0) {
+        notes.append(u"Seçili siparişlerin %1 satırı üretim listesine girmiyor: %2."_s.arg(
+            QString::number(printed.toplam()), printed.nedenler()));
+    }
+    m_ui->gizliNotu->setText(notes.join(u'\n'));
+    m_ui->gizliNotu->setVisible(!notes.isEmpty());
+}
+
 UretimFiltre UretimSekmesi::filtre() const
 {
     const auto chosen = [](const QComboBox *list) {
@@ -249,6 +297,7 @@ void UretimSekmesi::refresh()
         m_ui->siparisBasligi->setText(m_Sipnum != 0 ? m_adetler.title : QString());
         if (m_adetler.hasLines())
             rows->setCurrentIndex(rows->model()->index(0, 0));
+        tellHiddenLines();
         m_modelTimer.start(0);
     });
 }
@@ -298,6 +347,8 @@ void UretimSekmesi::showSheet()
         makeWithProgress(this, u"URETIM RAPORU"_s, [&](const PictureProgress &progress) {
             return uretimRaporu(m_context.oturum, liste, yazdirma, progress);
         });
-    if (rapor)
-        m_context.viewer.show(this, *rapor);
+    if (!rapor)
+        return;
+    m_context.viewer.show(this, *rapor);
+    m_printed = markedOrders();
 }

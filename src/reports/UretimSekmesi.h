@@ -28,6 +28,8 @@ public:
     /// Reads the current order's lines anew.
     void refresh();
     void focusFirst();
+    /// Whether no marks are lost by leaving; asks the user where they would be.
+    bool mayLeave();
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -43,7 +45,9 @@ private:
     void sortBy(int column);
     void showProgress();
     void showSelection();
+    void tellHiddenLines();
     UretimFiltre filtre() const;
+    QList<qint32> markedOrders() const;
     void showModel();
     void showLines(qsizetype row);
     void print();
@@ -54,8 +58,9 @@ private:
     std::unique_ptr<Ui::UretimSekmesi> m_ui;
     LookupModel *m_siparisler;
     SecimModeli *m_secim;
-    qint32 m_Sipnum = 0;   ///< the order whose lines are shown; 0: none
-    ReportTable m_adetler; ///< its pieces, as Yedek0 shows them
-    QTimer m_orderTimer;   ///< a held arrow key passes orders without reading each
+    qint32 m_Sipnum = 0;     ///< the order whose lines are shown; 0: none
+    ReportTable m_adetler;   ///< its pieces, as Yedek0 shows them
+    QList<qint32> m_printed; ///< the marked orders that the last sheet was of
+    QTimer m_orderTimer;     ///< a held arrow key passes orders without reading each
     QTimer m_modelTimer;
 };

@@ -1,5 +1,6 @@
 #include "UretimStore.h"
 
+#include "Dates.h"
 #include "Numbers.h"
 #include "OrderShares.h"
 #include "Oturum.h"
@@ -15,15 +16,46 @@ QString countPicture()
     return u"##0.00"_s;
 }
 
-QString condition(const UretimFiltre &filtre)
+QString statusCondition(const UretimFiltre &filtre)
 {
-    QString sql = u"and Trhbas >= "_s + sqlDate(filtre.bas) + u" and Trhbas <= "_s +
-                  sqlDate(filtre.bit) + u' ';
+    QString sql;
     if (filtre.sipDur)
         sql += u"and Drm1 = "_s + sqlText(*filtre.sipDur) + u' ';
     if (filtre.uretDur)
         sql += u"and Drm2 = "_s + sqlText(*filtre.uretDur) + u' ';
     return sql;
+}
+
+QString condition(const UretimFiltre &filtre)
+{
+    return u"and Trhbas >= "_s + sqlDate(filtre.bas) + u" and Trhbas <= "_s + sqlDate(filtre.bit) +
+           u' ' + statusCondition(filtre);
+}
+
+QString orderList(const QList<qint32> &siparisler)
+{
+    QStringList list;
+    for (const qint32 Sipnum : siparisler)
+        list.append(sqlNumber(Sipnum));
+    return list.join(u',');
+}
+
+/// Counts a line under what keeps its start date out of the range, if anything
+/// does.
+bool countByDate(const QDateTime &begun, const UretimFiltre &filtre, GizliSatirlar &gizli)
+{
+    if (!begun.isValid())
+        ++gizli.tarihsiz;
+    else if (begun.date() == filtre.bit && begun.time() != QTime(0, 0) &&
+             begun.date() >= filtre.bas)
+        ++gizli.bitisGunu;
+    else if (begun.date() >= filtre.bas && begun.date() <= filtre.bit)
+        return false;
+    else if (begun.date() == noDate())
+        ++gizli.baslamamis;
+    else
+        ++gizli.aralikDisi;
+    return true;
 }
 
 } // namespace
@@ -89,18 +121,43 @@ ReportTable UretimStore::adetSatirlari(qint32 Sipnum, const UretimFiltre &filtre
     return orderSharesTable(u"%1 %2"_s.arg(model, KisaAD), shares, {});
 }
 
+QSet<qint32> UretimStore::definedTypes() const
+{
+    Recordset Kayit = m_oturum->sorgula(u"Select TipID From UrunTipi"_s);
+    QSet<qint32> types;
+    while (Kayit.next())
+        types.insert(qint32(Kayit.integer(u"TipID")));
+    return types;
+}
+
+GizliSatirlar UretimStore::gizliSatirlar(const QList<qint32> &siparisler,
+                                         const UretimFiltre &filtre) const
+{
+    GizliSatirlar gizli;
+    if (siparisler.isEmpty())
+        return gizli;
+    const QSet<qint32> types = definedTypes();
+    Recordset Kayit =
+        m_oturum->sorgula(u"Select SipUruntip, Trhbas From SiparisD Where SipnumD In("_s +
+                          orderList(siparisler) + u')' + statusCondition(filtre));
+    while (Kayit.next()) {
+        if (countByDate(Kayit.value(u"Trhbas").toDateTime(), filtre, gizli))
+            continue;
+        if (!types.contains(qint32(Kayit.integer(u"SipUruntip"))))
+            ++gizli.tipiTanimsiz;
+    }
+    return gizli;
+}
+
 QList<UretimSatiri> UretimStore::satirlar(const QList<qint32> &siparisler,
                                           const UretimFiltre &filtre) const
 {
-    QStringList list;
-    for (const qint32 Sipnum : siparisler)
-        list.append(sqlNumber(Sipnum));
     Recordset Kayit = m_oturum->sorgula(
         u"Select SipnumD, Sipmodel, Sipuruntip, Kisaad, Siprenk, SipAck, Drm1, Drm2, "
         "Sum(Sipadet) as Topadet "
         "FROM SiparisD INNER JOIN UrunTipi ON SiparisD.SipUruntip = UrunTipi.TipID "
         "Where SipnumD In("_s +
-        list.join(u',') + u')' + condition(filtre) +
+        orderList(siparisler) + u')' + condition(filtre) +
         u" Group by SipnumD, Sipmodel, Sipuruntip, Kisaad, Siprenk, Sipack, Drm1, Drm2;"_s);
     QList<UretimSatiri> rows;
     while (Kayit.next()) {
@@ -158,6 +215,26 @@ QStringList UretimStore::modelTipleri(const QString &model) const
                               u"Kisaad");
     names.removeDuplicates(); // a model has a row for each of its materials
     return names;
+}
+
+int GizliSatirlar::toplam() const
+{
+    return tarihsiz + baslamamis + bitisGunu + aralikDisi + tipiTanimsiz;
+}
+
+QString GizliSatirlar::nedenler() const
+{
+    QStringList reasons;
+    const auto add = [&reasons](int count, const QString &reason) {
+        if (count > 0)
+            reasons.append(reason.arg(count));
+    };
+    add(tarihsiz, u"%1 satırın başlangıç tarihi yok"_s);
+    add(baslamamis, u"%1 satır başlamamış (01.01.2000)"_s);
+    add(bitisGunu, u"%1 satır bitiş gününün gece yarısından sonra başlamış"_s);
+    add(aralikDisi, u"%1 satır bu tarihlerin dışında başlamış"_s);
+    add(tipiTanimsiz, u"%1 satırın ürün tipi tanımlı değil"_s);
+    return reasons.join(u", "_s);
 }
 
 QString malzemeAdedi(double adet)

@@ -3,6 +3,7 @@
 #include "ReportTable.h"
 #include "Uretim.h"
 
+#include <QSet>
 #include <QStringList>
 
 struct Oturum;
@@ -23,6 +24,9 @@ public:
     /// The order lines behind such a figure, named by its model and type.
     ReportTable adetSatirlari(qint32 Sipnum, const UretimFiltre &filtre, const QString &model,
                               const QString &KisaAD) const;
+    /// The lines of these orders that the filter's dates or a missing product
+    /// type keep out of all of the above and below.
+    GizliSatirlar gizliSatirlar(const QList<qint32> &siparisler, const UretimFiltre &filtre) const;
     /// What is to be made of these orders, order after order.
     QList<UretimSatiri> satirlar(const QList<qint32> &siparisler, const UretimFiltre &filtre) const;
     /// Empty for an order whose customer is not defined.
@@ -36,6 +40,7 @@ public:
 
 private:
     QStringList texts(const QString &sql, QStringView field) const;
+    QSet<qint32> definedTypes() const;
     QList<UretimMalzemesi> malzemeler(const QString &sql, QStringView codeField) const;
 
     Oturum *m_oturum;

@@ -6,6 +6,7 @@
 #include "Guarded.h"
 #include "MenuPanel.h"
 #include "MenuStore.h"
+#include "Numbers.h"
 #include "Theme.h"
 #include "ui_AnaMenu.h"
 #include "WindowSize.h"
@@ -38,6 +39,7 @@ AnaMenu::AnaMenu(Oturum &oturum, Messages &messages, MenuScreens screens)
     m_ui->setupUi(this);
     m_panel = m_ui->panel;
     connect(m_panel, &MenuPanel::chosen, this, &AnaMenu::open);
+    connect(m_panel, &MenuPanel::numberTyped, this, &AnaMenu::showHint);
     connectFixedButtons();
     showSession();
     fitToScreen(*this, size());
@@ -139,12 +141,25 @@ void AnaMenu::readMenuFile(const QString &programFolder)
 void AnaMenu::showItems()
 {
     m_panel->showItems(MenuStore(m_oturum).itemsOfUser());
-    m_ui->hint->setText(m_panel->isEmpty()
-                            ? u"Bu kullanıcıya açılmış bir menü yok."_s
-                            : u"Numarasını yazıp Enter'a basmak da bir ekranı açar."_s);
+    showHint(0, true);
     for (int number = 0; QPushButton *button = m_panel->CmdMenu(number); ++number)
         bind(button, number);
     m_panel->focusFirst();
+}
+
+/// What typing a number came to.
+void AnaMenu::showHint(int number, bool known)
+{
+    QPalette look = m_ui->user->palette();
+    if (!known)
+        look.setColor(QPalette::WindowText, themeColors(look).mark);
+    m_ui->hint->setPalette(look);
+    if (!known)
+        m_ui->hint->setText(u"%1 numaralı bir ekran yok ya da size açık değil."_s.arg(number));
+    else
+        m_ui->hint->setText(m_panel->isEmpty()
+                                ? u"Bu kullanıcıya açılmış bir menü yok."_s
+                                : u"Numarasını yazıp Enter'a basmak da bir ekranı açar."_s);
 }
 
 void AnaMenu::open(int number)
@@ -188,7 +203,7 @@ bool AnaMenu::eventFilter(QObject *watched, QEvent *event)
 
 void AnaMenu::keyPressEvent(QKeyEvent *event)
 {
-    if (event->text().size() == 1 && event->text()[0].isDigit() &&
+    if (event->text().size() == 1 && isDecimalDigit(event->text()[0]) &&
         !event->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier)) {
         m_panel->typeDigit(event->text()[0]);
         return;

@@ -39,6 +39,7 @@ private:
     void bind(QPushButton *button, int number);
     void readMenuFile(const QString &programFolder);
     void showItems();
+    void showHint(int number, bool known);
     void open(int number);
 
     Oturum &m_oturum;

@@ -118,18 +118,47 @@ void MenuPanel::showItems(const QList<MenuOgesi> &items)
     }
 }
 
+bool MenuPanel::isOpen(int number) const
+{
+    QPushButton *button = m_buttons.value(number);
+    return button != nullptr && m_shown.contains(button) && button->isEnabled();
+}
+
+/// Whether a second digit could still make it the number of a button.
+bool MenuPanel::beginsNumber(int digit) const
+{
+    for (int second = 0; second < 10; ++second) {
+        if (digit > 0 && isOpen(digit * 10 + second))
+            return true;
+    }
+    return false;
+}
+
 void MenuPanel::typeDigit(QChar digit)
 {
-    const bool goesOn = m_sinceDigit.isValid() && m_sinceDigit.elapsed() < digitPause;
+    const bool goesOn =
+        m_typed.size() == 1 && m_sinceDigit.isValid() && m_sinceDigit.elapsed() < digitPause;
     m_sinceDigit.start();
-    m_typed = goesOn ? m_typed.right(1) + digit : QString(digit);
-    for (const QString &number : {m_typed, QString(digit)}) {
-        QPushButton *button = m_buttons.value(number.toInt());
-        if (button != nullptr && m_shown.contains(button) && button->isEnabled()) {
-            button->setFocus(Qt::ShortcutFocusReason);
-            return;
-        }
+    m_typed = goesOn ? m_typed + digit : QString(digit);
+    const int number = m_typed.toInt();
+    if (isOpen(number)) {
+        m_buttons[number]->setFocus(Qt::ShortcutFocusReason);
+        Q_EMIT numberTyped(number, true);
+        return;
     }
+    // Enter must not open what had the focus before.
+    setFocus(Qt::ShortcutFocusReason);
+    Q_EMIT numberTyped(number, m_typed.size() == 1 && beginsNumber(number));
+}
+
+/// Where a number without a button left the focus, the arrows lead back.
+void MenuPanel::keyPressEvent(QKeyEvent *event)
+{
+    const QList<int> arrows = {Qt::Key_Down, Qt::Key_Up, Qt::Key_Right, Qt::Key_Left};
+    if (arrows.contains(event->key()))
+        focusFirst();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 bool MenuPanel::moveFocus(const QWidget *from, int key)

@@ -29,18 +29,24 @@ public:
     void showItems(const QList<MenuOgesi> &items);
     bool isEmpty() const { return m_shown.isEmpty(); }
     void focusFirst() { ::focusFirst(m_shown); }
-    /// A digit that was typed anywhere in the menu.
+    /// A digit that was typed anywhere in the menu. Quick ones are one number,
+    /// whose button gets the focus; without one no button keeps it.
     void typeDigit(QChar digit);
 
 Q_SIGNALS:
     void chosen(int number);
+    /// Whether it is a button's, or can become one's by another digit.
+    void numberTyped(int number, bool known);
     /// The left arrow was pressed in the first column.
     void leftEdge();
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    bool isOpen(int number) const;
+    bool beginsNumber(int digit) const;
     bool moveFocus(const QWidget *from, int key);
 
     QGridLayout *m_grid;

@@ -43,6 +43,10 @@ void Tanim_User::setUpControls()
     connect(m_ui->Check_Yetki1, &QCheckBox::clicked, this,
             [this] { guarded(context().messages, this, [this] { extraRightClicked(); }); });
     connect(m_ui->User_Adi, &QLineEdit::textEdited, m_ui->bilgi, &QLabel::clear);
+    connect(m_ui->User_sifresi, &QLineEdit::textChanged, this, &Tanim_User::passwordChanged);
+    connect(m_ui->Check_Goster, &QCheckBox::toggled, this, [this](bool on) {
+        m_ui->User_sifresi->setEchoMode(on ? QLineEdit::Normal : QLineEdit::Password);
+    });
 }
 
 // Finding
@@ -81,6 +85,17 @@ void Tanim_User::showUser(const Kullanici &user)
     countRights();
     m_ui->bilgi->setText(noteOn(user));
     m_shown = entry();
+    passwordChanged();
+}
+
+/// A password that was changed can be read before it is saved; one that is
+/// stored stays hidden.
+void Tanim_User::passwordChanged()
+{
+    const bool changed = m_ui->User_sifresi->text() != m_shown.password;
+    m_ui->Check_Goster->setEnabled(changed);
+    if (!changed)
+        m_ui->Check_Goster->setChecked(false);
 }
 
 QString Tanim_User::noteOn(const Kullanici &user) const
@@ -100,6 +115,8 @@ void Tanim_User::emptyForm()
 {
     TanimEkrani::emptyForm();
     m_user = {};
+    m_shown = {};
+    passwordChanged();
     m_ui->Check_Yetki1->setChecked(false);
     m_ui->Rapor->Yetkidoldur({}, {});
     m_ui->yetkiSayisi->clear();
@@ -201,8 +218,13 @@ bool Tanim_User::writeRow()
     user.user_yetki1 = typed.user_yetki1;
     if (!store([&](LoadedRows &loaded) { m_store.save(user, typed.rights, loaded); }))
         return false;
-    m_done = user.User_Name + u" kaydedildi. Yetkiler bir sonraki girişinde geçerli olur."_s;
+    m_done = u"Yetkiler kullanıcının bir sonraki girişinde geçerli olur."_s;
     return true;
+}
+
+QString Tanim_User::savedWhat() const
+{
+    return m_user.User_Name + u" kullanıcısı"_s;
 }
 
 bool Tanim_User::mayRemove()
@@ -212,7 +234,7 @@ bool Tanim_User::mayRemove()
     else if (isLastAdministrator())
         warn(u"KULLANICI TANIMLARINA GİREBİLEN BAŞKA KULLANICI YOK, BU KULLANICI SİLİNEMEZ..."_s);
     else
-        return ask(u"KULLANICI TANIMI SILINECEK ?"_s, {}, MessageAnswer::Yes);
+        return ask(u"KULLANICI TANIMI SILINECEK ?"_s, {}, MessageAnswer::No);
     return false;
 }
 

@@ -29,6 +29,7 @@ private:
     Found readRow() override;
     QList<RecordRows> recordRows() const override;
     bool writeRow() override;
+    QString savedWhat() const override;
     bool mayRemove() override;
     bool removeRow() override;
     bool mayLeave() override;
@@ -36,6 +37,7 @@ private:
 
     void showUser(const Kullanici &user);
     QString noteOn(const Kullanici &user) const;
+    void passwordChanged();
     void countRights();
     void toggleRight();
     void extraRightClicked();

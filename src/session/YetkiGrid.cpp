@@ -1,8 +1,8 @@
 #include "YetkiGrid.h"
 
 #include "EntryControls.h"
-#include "ListCellDelegate.h"
 #include "ListHeading.h"
+#include "MarkedRowDelegate.h"
 #include "Theme.h"
 
 #include <QHeaderView>
@@ -23,7 +23,7 @@ YetkiGrid::YetkiGrid(QWidget *parent) : QTableView(parent), m_model(new QStandar
     m_model->horizontalHeaderItem(No)->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_model->horizontalHeaderItem(MenuTanimi)->setTextAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     setModel(m_model);
-    setItemDelegate(new ListCellDelegate(this));
+    setItemDelegate(new MarkedRowDelegate(Qt::ForegroundRole, this));
     setHorizontalHeader(new ListHeading(this));
     setEditTriggers(NoEditTriggers);
     setSelectionMode(SingleSelection);
@@ -84,8 +84,12 @@ QList<qint32> YetkiGrid::marked() const
 
 void YetkiGrid::keyPressEvent(QKeyEvent *event)
 {
-    const bool toggles = isEnter(*event) || event->key() == Qt::Key_Space;
-    if (!toggles || event->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier)) {
+    if (isEnter(*event)) {
+        event->ignore(); // the screen's, which goes on
+        return;
+    }
+    if (event->key() != Qt::Key_Space ||
+        event->modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier)) {
         QTableView::keyPressEvent(event);
         return;
     }

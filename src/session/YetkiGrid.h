@@ -7,7 +7,7 @@
 class QStandardItemModel;
 
 /// All menu items, those that a user may use marked red and bold. A double
-/// click, Enter or the space bar asks to turn the row's mark over.
+/// click or the space bar asks to turn the row's mark over.
 class YetkiGrid : public QTableView
 {
     Q_OBJECT

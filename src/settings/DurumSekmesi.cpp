@@ -93,6 +93,7 @@ void DurumSekmesi::ekle(DurumTuru tur)
     const QList<QListWidgetItem *> added = liste(tur)->findItems(kod, Qt::MatchExactly);
     liste(tur)->setCurrentItem(added.isEmpty() ? nullptr : added.last());
     liste(tur)->setFocus(Qt::TabFocusReason);
+    Q_EMIT saved(kod + u" durumu"_s);
 }
 
 /// A code that lines of orders have stays: its orders would show a status that

@@ -24,6 +24,10 @@ public:
     void load();
     void focusFirst();
 
+Q_SIGNALS:
+    /// What was stored just now.
+    void saved(const QString &what);
+
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 

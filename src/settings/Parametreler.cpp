@@ -58,6 +58,7 @@ void Parametreler::connectControls()
         });
     }
     connect(m_ayar, &AyarSekmesi::edited, m_ui->kayitDurumu, &QLabel::clear);
+    connect(m_durum, &DurumSekmesi::saved, m_ui->kayitDurumu, &SavedLine::tell);
     connect(m_ayar, &AyarSekmesi::companyChanged, this, &Parametreler::tellNewCompany);
     connect(m_yedek, &YedekSekmesi::restoreAsked, this,
             [this] { guarded(m_context.messages, this, [this] { restore(); }); });
@@ -132,7 +133,7 @@ void Parametreler::kaydet()
     if (m_ayar->degisti())
         m_ui->ParametreTab->setCurrentWidget(m_ayar);
     if (m_ayar->kaydet())
-        m_ui->kayitDurumu->setText(u"Ayarlar kaydedildi."_s);
+        m_ui->kayitDurumu->tell(u"Ayarlar"_s);
 }
 
 void Parametreler::tellNewCompany()

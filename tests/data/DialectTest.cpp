@@ -81,6 +81,8 @@ void DialectTest::refuses_data()
     QTest::newRow("impossible date")
         << u"Select * From DovizD Where Tarih = DateValue('30.02.2012')"_s;
     QTest::newRow("a name that cannot be one") << u"Select 1 as t22 Ayar"_s;
+    QTest::newRow("digits of another script") << u"Select * From Tas Where TasID = ١"_s;
+    QTest::newRow("digits of two scripts") << u"Select * From Tas Where TasID = 1١"_s;
     QTest::newRow("not a select") << u"DELETE From Tas"_s;
 }
 

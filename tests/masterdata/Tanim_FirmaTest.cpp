@@ -84,6 +84,22 @@ private Q_SLOTS:
         QVERIFY(on.isEditing());
     }
 
+    void offersTheNextFreeCode()
+    {
+        const Customers on;
+        on.key(Qt::Key_Insert);
+        QCOMPARE(on.text(u"Firkod"_s), u"21"_s);
+        on.enter({u"2147483647"_s}); // typing replaces it
+        on.press(Qt::Key_K, u"cmdKayit"_s);
+        QCOMPARE(on.control<QLabel>(u"kayitNotu"_s)->text(),
+                 u"2147483647 kodlu müşteri kaydedildi."_s);
+        on.key(Qt::Key_Insert); // none after it: the first gap
+        on.enter();
+        QCOMPARE(on.text(u"Firkod"_s), u"1"_s);
+        QVERIFY(on.isEditing());
+        QCOMPARE(on.control<QLabel>(u"kayitNotu"_s)->text(), QString());
+    }
+
     void refusesACodeThatDoesNotFit()
     {
         Customers on;
@@ -113,10 +129,10 @@ private Q_SLOTS:
         const QString question = u"O'Hara Gold SİLİNECEK..."_s;
         const QString title = u"FİRMA KARTI SİLME"_s;
         on.enter({u"20"_s});
-        on.remove(question, MessageAnswer::Yes, MessageAnswer::No, title);
+        on.remove(question, MessageAnswer::No, MessageAnswer::No, title);
         QVERIFY(on.isEditing());
         QVERIFY(on.customer(20) != "none"_L1);
-        on.remove(question, MessageAnswer::Yes, MessageAnswer::Yes, title);
+        on.remove(question, MessageAnswer::No, MessageAnswer::Yes, title);
         QVERIFY(!on.isEditing());
         QCOMPARE(on.customer(20), u"none"_s);
     }

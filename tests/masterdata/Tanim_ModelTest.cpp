@@ -302,7 +302,20 @@ void Tanim_ModelTest::removesRows()
         on.messages.verify();
     }
     QCOMPARE(on.shown(), QStringList(u"Yarı Mamul|K-1|1"_s));
-    on.messages.expect(u"K-1 LİSTEDEN ÇIKARILACAK..."_s, MessageAnswer::Yes);
+    // Nor does another kind clear a filled row unasked.
+    for (const MessageAnswer answer : {MessageAnswer::No, MessageAnswer::Yes}) {
+        on.grid()->setCurrentIndex(on.grid()->model()->index(0, 0));
+        on.messages.expect({.text = u"TİP DEĞİŞİNCE SATIRDAKİ K-1 SİLİNECEK, DEĞİŞTİRİLSİN Mİ ?"_s,
+                            .answer = answer,
+                            .defaultAnswer = MessageAnswer::No});
+        on.key(Qt::Key_Return);
+        on.key(Qt::Key_Up);
+        on.key(Qt::Key_Return);
+        on.messages.verify();
+        QCOMPARE(on.shown().first() == u"Yarı Mamul|K-1|1", answer == MessageAnswer::No);
+    }
+    on.grid()->setCurrentIndex(on.grid()->model()->index(0, 0));
+    on.messages.expect(u" LİSTEDEN ÇIKARILACAK..."_s, MessageAnswer::Yes);
     on.key(Qt::Key_Delete);
     QCOMPARE(on.shown(), QStringList(u"||"_s));
     on.key(Qt::Key_Delete); // a blank row is no loss

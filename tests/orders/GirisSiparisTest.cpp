@@ -158,6 +158,7 @@ private Q_SLOTS:
     void scansSwallowNoTyping();
     void savesAsNew();
     void deletesTheOrder();
+    void refusesAKaratThatCannotBeStored();
     void guardsUnsavedWork();
     void neverReplacesAnOrderThatWasNotShown();
     void keepsTheScreenWhenSavingFails();
@@ -841,7 +842,8 @@ void GirisSiparisTest::deletesTheOrder()
     Screen s;
     s.oturum.Veritabani->execute(u"UPDATE SiparisD SET Drm1 = 'HAZIR' Where SipnumD = 1"_s);
     s.find(u"1"_s);
-    const Message question{.text = u"1 NOLU SİPARİŞ SİLİNECEK."_s};
+    const Message question{.text = u"1 NOLU SİPARİŞ SİLİNECEK.\n\nMüşteri: Işık Kuyumculuk\n"
+                                   "Adet: 6 (3 satır)\nÜretimde olan satır: 3"_s};
     s.messages.expect(question.text, MessageAnswer::No);
     s.press(u"cmdsil"_s);
     QCOMPARE(s.lines(1).size(), 3);
@@ -850,6 +852,25 @@ void GirisSiparisTest::deletesTheOrder()
     QCOMPARE(s.lines(1), QStringList());
     QVERIFY(s.header(1, u"Sipnum").isNull());
     QCOMPARE(s.text(u"Sipnum"_s), QString());
+}
+
+void GirisSiparisTest::refusesAKaratThatCannotBeStored()
+{
+    Screen s;
+    s.fillHeader();
+    for (const QString &karat : {u"14.5"_s, u"99999"_s, u"-14"_s}) {
+        for (const QString &button : {u"cmdYazdir"_s, u"cmdKayit"_s}) {
+            s.control(u"Ayar"_s)->setFocus();
+            s.control<QLineEdit>(u"Ayar"_s)->selectAll();
+            s.control<QLineEdit>(u"Ayar"_s)->insert(karat); // as pasted
+            s.messages.expect(u"Ayar 1 ile 32767 arasında bir tam sayı olmalıdır."_s);
+            s.press(button);
+            s.messages.verify();
+            QVERIFY(s.control(u"Ayar"_s)->hasFocus());
+            QCOMPARE(s.text(u"Ayar"_s), karat);
+        }
+    }
+    QCOMPARE(s.viewer.documents.size(), 0);
 }
 
 void GirisSiparisTest::guardsUnsavedWork()
@@ -900,11 +921,21 @@ void GirisSiparisTest::neverReplacesAnOrderThatWasNotShown()
     Screen other;
     other.addLine(1, 5, u"A75"_s, 77, u"SR"_s, 6);
     other.find(u"1"_s);
-    QVERIFY(other.control<QLabel>(u"keptLinesNote"_s)->text().contains(u"A75 SR, 6 adet"_s));
+    const auto *note = other.control<QLabel>(u"keptLinesNote"_s);
+    QVERIFY(note->text().contains(u"A75 SR, 6 adet"_s));
+    QVERIFY(!note->text().contains(u"kaydedilemez"_s));
     other.messages.expect(slipQuestion, MessageAnswer::No);
     other.press(u"cmdKayit"_s);
     QCOMPARE(other.lines(1).first(), u"5 A75 77 SR [] 6"_s);
-    QVERIFY(!other.control(u"keptLinesNote"_s)->isVisible());
+    QVERIFY(!note->isVisible());
+    QCOMPARE(other.control<QLabel>(u"kayitNotu"_s)->text(), u"1 nolu sipariş kaydedildi."_s);
+    // A row with nothing but such lines stops the save, and the note says so.
+    other.addLine(1, 9, u"A75"_s, 3, u"BY"_s, 2);
+    other.addLine(1, 10, u"yok"_s, 1, u"BY"_s, 2);
+    other.find(u"1"_s);
+    QCOMPARE(other.control<QLabel>(u"kayitNotu"_s)->text(), QString());
+    QVERIFY(note->text().contains(u"A75 BY satırına adet girilmeden sipariş kaydedilemez."_s));
+    QVERIFY(note->text().contains(u"yok modeli tanımlanmadan sipariş kaydedilemez."_s));
 }
 
 void GirisSiparisTest::keepsTheScreenWhenSavingFails()

@@ -209,13 +209,21 @@ void RaporGenelTest::editsStatusesAndDatesByKeyboard()
     s.goTo(0, TakipModel::SipDur);
     s.enter();
     auto *orderStatus = s.control<ChoiceBox>(u"cmbTas"_s);
-    QVERIFY(orderStatus->hasFocus());
+    QVERIFY(orderStatus->view()->isVisible()); // dropped open at once
     QCOMPARE(orderStatus->geometry(), s.grid()->visualRect(s.grid()->currentIndex()));
     s.enter(u"h"_s); // HAZIR
     QVERIFY(s.grid()->hasFocus());
     QVERIFY(!orderStatus->isVisible());
-    s.goTo(1, TakipModel::UrtDur);
-    s.enter(u"d"_s); // typing opens the editor as well
+    // A double click drops it open too, and letting the button go leaves it so.
+    const QModelIndex production = s.grid()->model()->index(1, TakipModel::UrtDur);
+    const QPoint middle = s.grid()->visualRect(production).center();
+    QTest::mouseClick(s.grid()->viewport(), Qt::LeftButton, {}, middle);
+    QTest::mouseDClick(s.grid()->viewport(), Qt::LeftButton, {}, middle);
+    QTest::mouseRelease(s.grid()->viewport(), Qt::LeftButton, {}, middle);
+    QVERIFY(s.control<ChoiceBox>(u"cmbTas1"_s)->view()->isVisible());
+    s.key(Qt::Key_Escape);
+    QVERIFY(s.grid()->hasFocus());
+    s.enter(u"dö"_s); // typing opens the editor as well
     s.goTo(1, TakipModel::BasTrh);
     s.enter();
     s.enter(); // the working date, as it is offered
@@ -432,8 +440,15 @@ void RaporGenelTest::showsWhatIsMadeOfTheCurrentOrder()
     QVERIFY(s.control(u"Sipnum"_s)->hasFocus());
     s.key(Qt::Key_Tab, Qt::ControlModifier);
     QVERIFY(s.list()->hasFocus());
+    // Lines that the dates keep out are told of.
+    QVERIFY(!s.control(u"gizliNotu"_s)->isVisible());
+    s.oturum.Veritabani->execute(u"Update SiparisD Set Trhbas = Null Where Dotosayi = 1"_s);
     s.control<DateBox>(u"Trh01"_s)->setDate(QDate(2012, 3, 4));
     QCOMPARE(s.figures(u"Yedek0"_s), QStringList());
+    QVERIFY(s.control(u"gizliNotu"_s)->isVisible());
+    QVERIFY(s.control<QLabel>(u"gizliNotu"_s)
+                ->text()
+                .startsWith(u"Siparişin 1 satırı tabloda gösterilmiyor: 1 satırın başlangıç"_s));
     QCOMPARE(s.figures(u"Taslar"_s), QStringList());
 }
 
@@ -474,6 +489,18 @@ void RaporGenelTest::marksOrdersAndPrintsThem()
     s.messages.expect(u"KAYIT BULUNAMADI..."_s);
     s.print(1);
     s.print(0); // the first entry does nothing
+    // Escape takes the search back, and then does not drop marks unasked.
+    s.list()->setFocus();
+    s.key(Qt::Key_Escape);
+    QCOMPARE(s.control<QLineEdit>(u"Arama"_s)->text(), QString());
+    s.key(Qt::Key_Space);
+    s.messages.expect({.text = u"SEÇİLEN %1 SİPARİŞ YAZDIRILMADI, ÇIKILSIN MI ?"_s.arg(
+                           s.marked(s.list()->currentIndex().row()) ? 3 : 1),
+                       .answer = MessageAnswer::No,
+                       .defaultAnswer = MessageAnswer::No});
+    s.key(Qt::Key_Escape);
+    s.messages.verify();
+    QVERIFY(s.screen->isVisible());
 }
 
 KUYUM_TEST(RaporGenelTest)

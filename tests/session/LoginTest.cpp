@@ -4,6 +4,7 @@
 #include "ScriptedMessages.h"
 #include "TestCompanies.h"
 #include "TestRegistry.h"
+#include "Typing.h"
 #include "UsersStore.h"
 
 #include <QtTest>
@@ -197,6 +198,10 @@ void LoginTest::listsActiveUsersAndCompaniesInOrder()
     messages.expect({.text = u"KULLANICI SECIMI YAPINIZ..."_s, .icon = MessageIcon::Critical});
     login.typePassword(u"12345678"_s);
     messages.verify();
+
+    // Typing finds i, ı, I and İ by each other, and opens what it finds.
+    typeText(login.find<QComboBox>(u"Srkkod"_s), u"ık"_s);
+    QCOMPARE(login.oturum.SirketAdi, u"İkinci"_s);
 }
 
 void LoginTest::companyThatCannotBeOpened()

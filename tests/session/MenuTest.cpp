@@ -206,6 +206,13 @@ void MenuTest::opensScreensByKeys()
     QVERIFY(QTest::qWaitForWindowActive(&menu));
     QTest::keyClick(&menu, Qt::Key_S, Qt::AltModifier);
     QTRY_COMPARE(noted.unloaded, 5);
+    // A number without a button says so, and Enter opens nothing.
+    const auto *hint = menu.findChild<QLabel *>(u"hint"_s);
+    QTest::keyClicks(menu.focusWidget(), u"15"_s);
+    QVERIFY(hint->text().startsWith(u"15 numaralı"_s));
+    press(Qt::Key_Return);
+    press(Qt::Key_Down);
+    QCOMPARE(menu.focusWidget()->objectName(), u"CmdMenu0"_s);
 
     QCOMPARE(noted.opened, QList<int>({0, 1, 12, 13, 7}));
     QCOMPARE(noted.modes[2], u"URETIM RAPORU"_s);

@@ -1,6 +1,7 @@
 #include "TestRegistry.h"
 
 #include "TakeOverProcess.h"
+#include "TypedChoice.h"
 
 #include <map>
 #include <QApplication>
@@ -26,6 +27,7 @@ int main(int argc, char **argv)
     if (const std::optional<int> result = runTakeOverStep(argc, argv))
         return *result;
     QApplication application(argc, argv);
+    chooseEntriesAsTyped(application);
     QCoreApplication::setApplicationName(QStringLiteral("kuyum-tests"));
     QStringList arguments = QCoreApplication::arguments();
     QString only;
