@@ -107,7 +107,7 @@ LoadedRows KatalogStore::oku(const QString &KatAdi) const
                      {u"kataciklama"_s, u"Açıklama"_s},
                      {u"#"_s, u"Sıra"_s}},
           .identity = {u"katno1"_s},
-          .quiet = {u"#"_s},
+          .quiet = {u"#"_s, u"KatAdi"_s},
           .ordered = true},
          {.table = u"KatalogSira"_s,
           .where = ofName,

@@ -41,6 +41,7 @@ struct KeptMessages : Messages
     {
         return std::nullopt;
     }
+    ChangeAnswer choose(QWidget *, const ChangedMeanwhile &) override { return ChangeAnswer::Back; }
     QStringList said;
     MessageAnswer answer = MessageAnswer::No;
 };
