@@ -93,6 +93,15 @@ bool DateBox::isBlank() const
     return std::none_of(typed.begin(), typed.end(), [](QChar c) { return c.isDigit(); });
 }
 
+QSize DateBox::sizeHint() const
+{
+    constexpr int usualLetters = 17; // that a line asks room for
+    const QFontMetrics metrics = fontMetrics();
+    const int date = metrics.horizontalAdvance(u"00.00.0000_"_s);
+    const QSize usual = QLineEdit::sizeHint();
+    return {usual.width() + date - usualLetters * metrics.horizontalAdvance(u'x'), usual.height()};
+}
+
 void DateBox::keyPressEvent(QKeyEvent *event)
 {
     static const QString separators = u"/-,"_s;
@@ -183,14 +192,16 @@ void DateBox::openCalendar()
     const auto take = [this, calendar](QDate chosen) {
         choose(chosen);
         calendar->close();
+        setFocus(Qt::PopupFocusReason);
     };
     connect(calendar, &QCalendarWidget::activated, this, take);
     connect(calendar, &QCalendarWidget::clicked, this, take);
     connect(new QShortcut(Qt::Key_Escape, calendar), &QShortcut::activated, calendar,
             &QWidget::close);
     calendar->move(placeFor(*calendar, *this));
+    // As a menu does: the box under it is not left.
+    calendar->setFocus(Qt::PopupFocusReason);
     calendar->show();
-    calendar->setFocus();
 }
 
 void keepDate(DateBox &box, Messages &messages)

@@ -25,6 +25,9 @@ public:
     QDate lastDate() const { return m_lastDate; }
     /// Nothing but the mask stands in it.
     bool isBlank() const;
+    /// A whole date, and the calendar's button.
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
 Q_SIGNALS:
     /// Another date stands in the box, typed to its end or chosen.

@@ -41,7 +41,7 @@ constexpr int comfortableLine = 600;
 constexpr int shortestLine = 400;
 constexpr int besideText = 120;  ///< icon and margins
 constexpr int belowText = 150;   ///< buttons, margins and the window's frame
-constexpr int besideTitle = 150; ///< the window's own buttons
+constexpr int besideTitle = 130; ///< the window's own buttons
 
 QString titleOf(const QString &title)
 {
@@ -109,7 +109,7 @@ void showWholeText(QMessageBox &box)
     const int natural = label->sizeHint().width();
     label->setWordWrap(natural > line);
     const int title = box.fontMetrics().horizontalAdvance(box.windowTitle()) + besideTitle;
-    label->setMinimumWidth(std::min(std::max(natural, title - besideText), line));
+    label->setMinimumWidth(std::min(std::max(natural, title), line));
     scrollHighText(box, label, label->minimumWidth());
 }
 

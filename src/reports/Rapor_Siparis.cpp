@@ -151,8 +151,10 @@ void Rapor_Siparis::fitLowScreen()
 void Rapor_Siparis::connectTab(int place)
 {
     Sekme &sekme = m_sekmeler[place];
-    sekme.bas->setDate(m_context.oturum.CalismaTarihi);
-    sekme.bit->setDate(m_context.oturum.CalismaTarihi);
+    for (DateBox *date : {sekme.bas, sekme.bit}) {
+        date->setDate(m_context.oturum.CalismaTarihi);
+        keepDate(*date, m_context.messages);
+    }
     sekme.cmdYazdir->setEnabled(false);
     sekme.excel->setEnabled(false);
     connect(sekme.run, &QPushButton::clicked, this,

@@ -220,8 +220,15 @@ void TakipGrid::openDate(const QString &typed)
 
 void TakipGrid::placeEditor()
 {
-    if (m_editor != nullptr)
-        m_editor->setGeometry(visualRect(m_cell));
+    if (m_editor == nullptr)
+        return;
+    QRect place = visualRect(m_cell);
+    // A date is whole beside its calendar's button.
+    if (m_editor == trhEdit && place.width() < trhEdit->sizeHint().width()) {
+        place.setWidth(trhEdit->sizeHint().width());
+        place.moveRight(std::min(place.right(), viewport()->rect().right()));
+    }
+    m_editor->setGeometry(place);
 }
 
 bool TakipGrid::hasUnfinishedEdit() const

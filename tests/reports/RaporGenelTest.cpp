@@ -276,6 +276,12 @@ void RaporGenelTest::takesOnlyWhatEnterOrAChoiceConfirms()
     s.enter(u"01032012"_s);
     QCOMPARE(s.cell(0, TakipModel::BasTrh), u"01.03.2012"_s);
     s.enter();
+    s.key(Qt::Key_F4); // the calendar does not take the user out of the cell
+    s.key(Qt::Key_Right);
+    s.key(Qt::Key_Return);
+    s.enter();
+    QCOMPARE(s.cell(0, TakipModel::BasTrh), u"02.03.2012"_s);
+    s.enter();
     s.key(Qt::Key_Delete);
     s.enter(); // an emptied date is none
     QCOMPARE(s.cell(0, TakipModel::BasTrh), QString());
