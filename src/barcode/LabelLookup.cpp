@@ -88,6 +88,21 @@ std::optional<LabelledModel> LabelLookup::byRecord(const ProductLabel &label) co
                  sqlNumber(label.TipID));
 }
 
+qint32 LabelLookup::standingRecord(qint32 Model_ID) const
+{
+    Database &db = *m_oturum->Veritabani;
+    if (db.query(u"Select * From Model Where Model_ID = "_s + sqlNumber(Model_ID)).next())
+        return Model_ID;
+    const QString id = sqlNumber(Model_ID);
+    Recordset old = db.query(u"Select * From EskiEtiket Where Son >= "_s + id + u" and Ilk <= "_s +
+                             id + u" Order by Son"_s);
+    if (!old.next())
+        return Model_ID;
+    Recordset now = db.query(u"Select Max(Model_ID) as Kayit From Model Where "_s +
+                             ofModel(old.text(u"Model"), qint32(old.integer(u"M_Uruntip"))));
+    return now.next() && !now.isNull(u"Kayit") ? qint32(now.integer(u"Kayit")) : Model_ID;
+}
+
 std::optional<LabelledModel> LabelLookup::byOldRecord(const ProductLabel &label) const
 {
     Database &db = *m_oturum->Veritabani;

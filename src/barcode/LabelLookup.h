@@ -35,6 +35,9 @@ public:
     /// Reads and finds a scanned text; nothing for one that is no label.
     /// Throws DatabaseError.
     std::optional<LabelledModel> find(QStringView text) const;
+    /// The record number that a model has now which once had this one: the same
+    /// while it stands, and where the model is gone. Throws DatabaseError.
+    qint32 standingRecord(qint32 Model_ID) const;
 
 private:
     std::optional<LabelledModel> byRecord(const ProductLabel &label) const;

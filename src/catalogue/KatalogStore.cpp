@@ -1,5 +1,6 @@
 #include "KatalogStore.h"
 
+#include "LabelLookup.h"
 #include "Numbers.h"
 #include "Oturum.h"
 #include "SqlText.h"
@@ -120,8 +121,12 @@ void KatalogStore::save(const Katalog &katalog, LoadedRows &okunan) const
     okunan.write(*m_oturum->Veritabani, [&] {
         deleteRows(katalog.KatAdi);
         Recordset rows = m_oturum->Veritabani->table(u"Katalog"_s);
-        for (const KatalogSatiri &satir : katalog.satirlar + katalog.keptRows)
+        // A model that was saved since the catalogue was loaded has another number.
+        const LabelLookup records(*m_oturum);
+        for (KatalogSatiri satir : katalog.satirlar + katalog.keptRows) {
+            satir.katno1 = records.standingRecord(satir.katno1);
             addRow(rows, katalog.KatAdi, satir);
+        }
         if (!katalog.elleSirali)
             return;
         Recordset ordered = m_oturum->Veritabani->table(u"KatalogSira"_s);

@@ -174,11 +174,14 @@ QList<FieldChange> RowComparison::differencesIn(const QList<int> &places) const
         }
         paired_mine.insert(m_standingToMine.at(i));
         for (const int place : places) {
-            if (sameValue(there[place], (*own)[place]))
+            const QString ours = shown(place, (*own)[place]);
+            const QString theirs = shown(place, there[place]);
+            // No date and the date that stands for none look the same.
+            if (sameValue(there[place], (*own)[place]) || (ours.isEmpty() && theirs.isEmpty()))
                 continue;
             changes.append({name(there), label(place),
-                            before == nullptr ? QString() : shown(place, (*before)[place]),
-                            shown(place, (*own)[place]), shown(place, there[place])});
+                            before == nullptr ? QString() : shown(place, (*before)[place]), ours,
+                            theirs});
         }
     }
     std::map<qsizetype, qsizetype> before;

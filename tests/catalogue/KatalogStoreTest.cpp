@@ -125,10 +125,14 @@ private Q_SLOTS:
     {
         const ModelStore models(m_oturum);
         Model ring = models.ModelBul(u"A75"_s, 1).value();
+        const Katalog before = m_store.KatalogBul(u"Bahar"_s);
+        LoadedRows loaded = m_store.oku(u"Bahar"_s);
         models.save(ring, m_unread);
         const Katalog katalog = m_store.KatalogBul(u"Bahar"_s);
         QCOMPARE(katalog.satirlar.size(), 2);
         QCOMPARE(katalog.satirlar.first().katno1, ring.Model_ID);
+        m_store.save(before, loaded); // opened before, and saved without a question
+        QVERIFY(m_store.KatalogBul(u"Bahar"_s) == katalog);
         models.remove(u"A75"_s, 1, m_unread);
         QCOMPARE(m_store.KatalogBul(u"Bahar"_s).satirlar.size(), 1);
         QCOMPARE(stored().size(), 3);
