@@ -120,14 +120,14 @@ void ModelStoreTest::replacesAFoundModelWholly()
 
     // Numbers in a row take one row, over all the saves; another model's do not.
     Model pearl = *m_store->ModelBul(u"İnci-1"_s, 3);
-    m_store->save(pearl, true);
-    m_store->save(pearl, true);
-    m_store->save(ring, true);
+    m_store->save(pearl, m_unread);
+    m_store->save(pearl, m_unread);
+    m_store->save(ring, m_unread);
     QCOMPARE(oldLabels(), QStringList({u"1-2 A75 1"_s, u"3-3 A75 2"_s, u"4-4 İnci-1 3"_s,
                                        u"6-6 A75 1"_s, u"7-7 İnci-1 3"_s}));
-    m_store->save(ring, true);
+    m_store->save(ring, m_unread);
     QCOMPARE(oldLabels().mid(3), QStringList({u"6-6 A75 1"_s, u"7-7 İnci-1 3"_s, u"9-9 A75 1"_s}));
-    m_store->save(ring, true);
+    m_store->save(ring, m_unread);
     QCOMPARE(oldLabels().last(), u"9-10 A75 1"_s);
 }
 

@@ -571,11 +571,12 @@ void GirisSiparisTest::scansLabels()
     // What is stuck on goods means its model through saves, and tells it later.
     const ModelStore models(s.oturum);
     Model ring = *models.ModelBul(u"A75"_s, 1);
-    models.save(ring, true);
+    LoadedRows unread;
+    models.save(ring, unread);
     s.messages.expect(u"TABLODA KAYIT MEVCUT!"_s);
     s.enter(ringLabel);
     QCOMPARE(s.cell(2, 0) + s.cell(2, 3), u"A751"_s);
-    models.remove(u"A75"_s, 1);
+    models.remove(u"A75"_s, 1, unread);
     s.messages.expect({.text = u"ETİKETİN MODELİ SİLİNMİŞ: A75 (YZK)"_s, .begins = true});
     s.enter(ringLabel);
     s.oturum.calistir(u"Delete From UrunTipi Where KisaAD = 'KPE'"_s);
