@@ -13,16 +13,16 @@ if(KUYUM_SANITIZE)
 endif()
 
 # kuyum_library(name USES lib... SOURCES file...)
-# One folder's library. Its own folder is all it gives to others, and it sees
-# the headers of the libraries named in USES and no more: that keeps includes
-# running one way (app, screens, subjects, data, base).
+# The library of a folder, named after it (orders/screens is orders_screens).
+# Its own folder is all it gives to others, and it sees the headers of the
+# libraries named in USES, of those that they use, and no more: that keeps
+# includes running one way (app, screens, subjects, data, base).
 function(kuyum_library name)
   cmake_parse_arguments(arg "" "" "USES;SOURCES" ${ARGN})
   add_library(${name} STATIC ${arg_SOURCES})
   target_include_directories(${name} PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
   target_link_libraries(${name} PUBLIC ${arg_USES} PRIVATE kuyum_options)
-  set_property(GLOBAL APPEND PROPERTY KUYUM_LIBRARIES ${name})
-  if("Qt6::Widgets" IN_LIST arg_USES OR name MATCHES "_screens$")
+  if(name MATCHES "screens$|^widgets$|^platform")
     target_precompile_headers(${name} PRIVATE <QtWidgets> <memory> <functional>)
   else()
     target_precompile_headers(${name} PRIVATE <QtCore> <memory> <functional>)

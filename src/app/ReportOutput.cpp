@@ -1,7 +1,7 @@
 #include "ReportOutput.h"
 
 #include "CommandLine.h"
-#include "Csv.h"
+#include "ReportCsv.h"
 
 #include <QCommandLineParser>
 

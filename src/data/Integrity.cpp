@@ -1,6 +1,6 @@
 #include "Integrity.h"
 
-#include "Backup.h"
+#include "Cancelled.h"
 #include "Database.h"
 #include "Dialect.h"
 #include "SqliteEngine.h"
@@ -92,7 +92,7 @@ QStringList integrityFaults(const SqliteEngine &engine, const WorkStage &stage)
     } catch (const DatabaseError &error) {
         watch.rethrow();
         if (watch.stopped())
-            throw BackupCancelled();
+            throw Cancelled();
         if (error.cause() != DatabaseError::Cause::FileDamaged)
             throw;
         faults.append(error.text());

@@ -11,7 +11,7 @@ class SqliteEngine;
 
 /// Reads the whole file and compares every index with its table. Gives what
 /// the engine finds wrong, in its own words; empty when the file is sound.
-/// Throws BackupCancelled when the stage is stopped.
+/// Throws Cancelled when the stage is stopped.
 QStringList integrityFaults(const SqliteEngine &engine, const WorkStage &stage = {});
 
 /// The same without the indexes and for no longer than that: a company of usual

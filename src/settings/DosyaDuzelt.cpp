@@ -50,8 +50,6 @@ FilledTable DosyaDuzelt1(Database &db, const QString &table, const RepairProgres
         return fillNulls(db, table, [&](qint64 rows) {
             tellProgress(progress, table, done + int(rows), total);
         });
-    } catch (const MaintenanceStopped &) {
-        throw;
     } catch (const DatabaseError &error) {
         throw DatabaseError(u"\"%1\" tablosu düzenlenemedi: %2"_s.arg(table, error.text()));
     }

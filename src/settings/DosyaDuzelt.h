@@ -34,12 +34,12 @@ struct RepairResult
 
 /// Fills the nulls of one table; within the caller's transaction. done and
 /// total count the rows of all tables. Throws DatabaseError naming the table,
-/// and MaintenanceStopped.
+/// and Cancelled.
 FilledTable DosyaDuzelt1(Database &db, const QString &table, const RepairProgress &progress,
                          int done, int total);
 
 /// Repairs the open company: makes a copy of the database, fills the nulls of
 /// all its tables, and moves the counter of SiparisD past every line in use,
 /// in one transaction. Bookkeeping tables are not touched. Throws DatabaseError
-/// and MaintenanceStopped; nothing is changed then.
+/// and Cancelled; nothing is changed then.
 RepairResult TumDosyalariDuzenle(Oturum &oturum, const RepairProgress &progress = {});

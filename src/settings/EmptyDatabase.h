@@ -11,7 +11,7 @@ struct Oturum;
 ///
 /// Refuses the working database, the registry and every company's database as
 /// the target. Throws DatabaseError, with the engine's number where the place
-/// cannot be written to, and MaintenanceStopped; the target is unchanged then.
+/// cannot be written to, and Cancelled; the target is unchanged then.
 void makeEmptyDatabase(Oturum &oturum, const QString &target, const MaintenanceProgress &progress);
 
 /// The company could not be opened again: there is nothing to work on.

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "Backup.h"
-#include "DatabaseError.h"
 
 #include <functional>
 
@@ -9,23 +8,11 @@
 /// much of how much is done. False stops the work; nothing is changed then.
 using MaintenanceProgress = std::function<bool(const QString &what, int done, int total)>;
 
-/// Thrown when the user stopped.
-class MaintenanceStopped : public DatabaseError
-{
-public:
-    MaintenanceStopped()
-        : DatabaseError(QStringLiteral("İşlem durduruldu, hiçbir şey değiştirilmedi."))
-    {
-    }
-};
+/// That the user stopped the work, and nothing was changed.
+Cancelled stoppedUnchanged();
 
-/// Tells the progress, and ends the work when the user stopped it.
-inline void tellProgress(const MaintenanceProgress &progress, const QString &what, int done,
-                         int total)
-{
-    if (progress && !progress(what, done, total))
-        throw MaintenanceStopped();
-}
+/// Tells the progress; throws Cancelled when the user stopped the work.
+void tellProgress(const MaintenanceProgress &progress, const QString &what, int done, int total);
 
 /// Makes the checked copy of the database that repair and refresh begin with,
 /// and returns its path.

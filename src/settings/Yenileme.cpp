@@ -115,8 +115,6 @@ void Yenileme::refreshTable(const TableComparison &comparison)
             Islem_Yap(comparison);
         savepoint.keep();
         ++m_result.tables;
-    } catch (const MaintenanceStopped &) {
-        throw;
     } catch (const DatabaseError &error) {
         try {
             savepoint.undo();
@@ -127,7 +125,7 @@ void Yenileme::refreshTable(const TableComparison &comparison)
         m_result = before;
         m_result.failed.append(comparison.name);
         if (!m_failure(comparison.name, error.text()))
-            throw MaintenanceStopped();
+            throw stoppedUnchanged();
     }
     m_done += 2 * m_rows;
 }

@@ -37,7 +37,7 @@ class Yenileme
 public:
     Yenileme(Database &db, MaintenanceProgress progress, RefreshFailure failure);
 
-    /// Throws DatabaseError and MaintenanceStopped; nothing is changed then.
+    /// Throws DatabaseError and Cancelled; nothing is changed then.
     RefreshResult yenile(const QList<TableDef> &chosen);
 
 private:

@@ -183,7 +183,7 @@ void BackupTest::aStoppedBackupLeavesNothing()
     // Stopped in each of its stages.
     for (const int stopAt : {0, 300, 500, 900, 1000}) {
         QVERIFY_THROWS_EXCEPTION(
-            BackupCancelled,
+            Cancelled,
             makeBackup(*m_db, BackupKind::Manual, [&](int done, int) { return done < stopAt; }));
         QCOMPARE(inFolder(u"yedek"_s), QStringList());
     }
@@ -397,7 +397,7 @@ void BackupTest::nothingIsReplacedByARefusedOrStoppedRestore()
     m_db.reset();
     for (const int stopAt : {0, 150, 300, 600, 900}) {
         QVERIFY_THROWS_EXCEPTION(
-            BackupCancelled,
+            Cancelled,
             restoreBackup(company(), backup, [&](int done, int) { return done < stopAt; }));
     }
     QCOMPARE(fileBytes(company()), before);

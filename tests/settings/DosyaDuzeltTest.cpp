@@ -177,7 +177,7 @@ void DosyaDuzeltTest::stoppedOrFailedChangesNothing()
     Database &db = *company.oturum.Veritabani;
     const QMap<QString, QList<QStringList>> before = storedTables(db);
     const auto stopAtUsers = [](const QString &what, int, int) { return what != u"Users"_s; };
-    QVERIFY_THROWS_EXCEPTION(MaintenanceStopped, TumDosyalariDuzenle(company.oturum, stopAtUsers));
+    QVERIFY_THROWS_EXCEPTION(Cancelled, TumDosyalariDuzenle(company.oturum, stopAtUsers));
     QCOMPARE(storedTables(db), before);
 
     db.engine().run(u"CREATE TRIGGER bozuk BEFORE UPDATE ON Users "

@@ -186,11 +186,11 @@ void YenilemeTest::oneTableFails()
             return goOn;
         };
     };
-    QVERIFY_THROWS_EXCEPTION(MaintenanceStopped, refresh(db, answer(false)));
+    QVERIFY_THROWS_EXCEPTION(Cancelled, refresh(db, answer(false)));
     QCOMPARE(definitions(db), definitionsBefore);
     QCOMPARE(storedTables(db), before);
     const auto stop = [](const QString &what, int, int) { return what != u"Katalog"_s; };
-    QVERIFY_THROWS_EXCEPTION(MaintenanceStopped, refresh(db, answer(true), stop));
+    QVERIFY_THROWS_EXCEPTION(Cancelled, refresh(db, answer(true), stop));
     QCOMPARE(definitions(db), definitionsBefore);
     QCOMPARE(storedTables(db), before);
 
@@ -327,7 +327,7 @@ void YenilemeTest::newDatabaseGoesNowhereElse()
     QFile old(path(u"eski.kuyum"_s));
     QVERIFY(old.open(QFile::ReadWrite) && old.write("eski") == 4 && old.flush());
     const auto stop = [](const QString &what, int, int) { return what != u"Users"_s; };
-    QVERIFY_THROWS_EXCEPTION(MaintenanceStopped, makeEmptyDatabase(oturum, old.fileName(), stop));
+    QVERIFY_THROWS_EXCEPTION(Cancelled, makeEmptyDatabase(oturum, old.fileName(), stop));
     QVERIFY(old.seek(0));
     QCOMPARE(old.readAll(), QByteArray("eski"));
     QCOMPARE(company.headerCount(), 4); // the company is open after each of them

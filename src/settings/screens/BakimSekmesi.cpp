@@ -58,7 +58,7 @@ void BakimSekmesi::CmdDosyaDuzenle()
                 }
                 return progress(done, total);
             });
-    } catch (const MaintenanceStopped &stopped) {
+    } catch (const Cancelled &stopped) {
         messages.say(this, stopped.text(), MessageIcon::Information);
         return;
     }

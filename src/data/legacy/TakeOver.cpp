@@ -101,7 +101,7 @@ void TakeOver::run()
 void TakeOver::runSteps()
 {
     if (m_cancelled)
-        throw TakeOverCancelled();
+        throw Cancelled(u"Aktarma iptal edildi."_s);
     constexpr qint64 bytesPerMillisecond = 1000;
     const int stallLimit = m_stallLimit > 0
                                ? m_stallLimit
@@ -133,7 +133,7 @@ void TakeOver::runSteps()
     proof.kill();
 
     if (m_cancelled)
-        throw TakeOverCancelled();
+        throw Cancelled(u"Aktarma iptal edildi."_s);
     for (const TakeOverStepProcess *step : {&copy, &proof}) {
         if (!step->failure().isEmpty())
             throw DatabaseError(u"%1 (%2)"_s.arg(step->failure(), m_source));

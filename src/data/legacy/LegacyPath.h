@@ -26,7 +26,7 @@ struct OpenablePath
 
 /// Gives the file to open, taking the legacy one over when that was not done
 /// yet. watch is called with the take-over before it runs: connect a progress
-/// bar and a cancel button there. Throws DatabaseError; TakeOverCancelled when
+/// bar and a cancel button there. Throws DatabaseError; Cancelled when
 /// the user stopped it.
 OpenablePath ensureTakenOver(const QString &path,
                              const std::function<void(TakeOver &)> &watch = {});

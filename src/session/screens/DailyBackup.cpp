@@ -45,7 +45,7 @@ bool backUpDaily(Oturum &oturum, Messages &messages)
         StoppableWork work(nullptr, u"Günlük yedek"_s,
                            u"Veri tabanının günlük yedeği alınıyor..."_s);
         makeBackup(*oturum.Veritabani, BackupKind::Daily, work.progress());
-    } catch (const BackupCancelled &) {
+    } catch (const Cancelled &) {
         // The next start of the day tries again.
     } catch (const DatabaseError &error) {
         if (error.cause() == DatabaseError::Cause::FileDamaged)

@@ -1,18 +1,12 @@
 #pragma once
 
+#include "Cancelled.h"
 #include "DatabaseError.h"
 
 #include <QObject>
 #include <QString>
 
 class QEventLoop;
-
-/// Thrown by TakeOver::run() when the user stopped it; nothing is left behind.
-class TakeOverCancelled : public DatabaseError
-{
-public:
-    TakeOverCancelled() : DatabaseError(QStringLiteral("Aktarma iptal edildi.")) {}
-};
 
 /// Takes a legacy database (.mdb) over into a new database file. The source is
 /// only read. The target appears in one rename, after its content was compared
@@ -30,7 +24,7 @@ public:
     ~TakeOver() override;
 
     /// Runs to the end, processing events meanwhile. Throws DatabaseError with
-    /// the reason in Turkish, and TakeOverCancelled after cancel().
+    /// the reason in Turkish, and Cancelled after cancel().
     void run();
     /// May be called from anything that run() lets happen.
     void cancel();

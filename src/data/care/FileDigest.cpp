@@ -39,7 +39,7 @@ QByteArray fileDigest(const QString &file, const WorkStage &stage)
             break;
         hash.addData(QByteArrayView(bytes).first(count));
         if (!stage.tell(qMin(1.0, double(source.pos()) / size)))
-            throw BackupCancelled();
+            throw Cancelled();
     }
     return hash.result().toHex();
 }

@@ -35,7 +35,7 @@ std::optional<QString> offerBackup(QWidget *parent, Messages &messages, const QS
     std::optional<BackupFile> backup;
     try {
         backup = findGoodBackup(parent, database);
-    } catch (const BackupCancelled &) {
+    } catch (const Cancelled &) {
         return std::nullopt;
     }
     if (!backup.has_value()) {

@@ -101,7 +101,7 @@ bool YedekSekmesi::work(const QString &title, const QString &text, const Work &w
         StoppableWork box(this, title, text);
         work(box.progress());
         return true;
-    } catch (const BackupCancelled &cancelled) {
+    } catch (const Cancelled &cancelled) {
         m_context.messages.say(this, cancelled.text(), MessageIcon::Information);
         return false;
     }

@@ -6,7 +6,7 @@
 #include <QString>
 
 /// The SHA-256 of a file, kept beside it as "FILE.sha256" in the form that
-/// `sha256sum -c` reads. Everything throws DatabaseError, and BackupCancelled
+/// `sha256sum -c` reads. Everything throws DatabaseError, and Cancelled
 /// when the stage is stopped.
 
 QString digestPath(const QString &file);

@@ -193,7 +193,7 @@ void Dosya_Yenile::Gozat()
         Combo_Doldur(tables);
         setLocked(false);
         m_ui->Yenile_Cmd->setFocus(Qt::TabFocusReason);
-    } catch (const TakeOverCancelled &) {
+    } catch (const Cancelled &) {
         tell(u"Dosyanın okunması durduruldu."_s);
     } catch (const DatabaseError &error) {
         tellFailure(error, missingSource());
@@ -235,7 +235,7 @@ void Dosya_Yenile::Yenile()
     try {
         tables =
             readSource(m_source); // it may have been changed, or taken out, since it was chosen
-    } catch (const TakeOverCancelled &) {
+    } catch (const Cancelled &) {
         tell(u"Dosyanın okunması durduruldu."_s);
         return;
     } catch (const DatabaseError &error) {
@@ -260,7 +260,7 @@ void Dosya_Yenile::Yenile()
         tell(u"ISLEM TAMAMLANDI..."_s);
         m_context.messages.say(this, u"ISLEM TAMAMLANDI...\n\n"_s + result.text(),
                                MessageIcon::Information);
-    } catch (const MaintenanceStopped &stopped) {
+    } catch (const Cancelled &stopped) {
         tell(stopped.text());
         m_context.messages.say(this, stopped.text(), MessageIcon::Information);
     } catch (const DatabaseError &error) {
@@ -301,7 +301,7 @@ void Dosya_Yenile::Disket()
         reject();
         QCoreApplication::exit(1);
         return;
-    } catch (const MaintenanceStopped &) {
+    } catch (const Cancelled &) {
         tell(u"Durduruldu, yeni dosya yapılmadı."_s);
         return;
     } catch (const DatabaseError &error) {

@@ -65,7 +65,7 @@ void copyPages(const SqliteEngine &source, const SqliteEngine &target, const Wor
         result = sqlite3_backup_step(backup.get(), pagesAtATime);
         const int total = qMax(1, sqlite3_backup_pagecount(backup.get()));
         if (!stage.tell(1 - double(sqlite3_backup_remaining(backup.get())) / total))
-            throw BackupCancelled();
+            throw Cancelled();
     }
     if (sqlite3_backup_finish(backup.release()) != SQLITE_OK)
         target.fail();
@@ -162,8 +162,6 @@ void checkBackup(const QString &backup, const WorkProgress &progress)
 {
     try {
         checkBackupFile(backup, backup, {progress, 0, 1000});
-    } catch (const BackupCancelled &) {
-        throw;
     } catch (const DatabaseError &error) {
         throw DatabaseError(u"%1\n%2"_s.arg(QDir::toNativeSeparators(backup), error.text()));
     }
@@ -181,8 +179,6 @@ std::optional<BackupFile> newestGoodBackup(const QString &database, const WorkPr
         try {
             checkBackup(backup.path, progress);
             return backup;
-        } catch (const BackupCancelled &) {
-            throw;
         } catch (const DatabaseError &) {
             // An older one may be sound.
         }

@@ -151,7 +151,7 @@ bool Pass_Form::openDatabase(const QString &path)
     try {
         m_oturum.Veritabani = openTakenOver(this, m_messages, path, openCompany);
         return true;
-    } catch (const TakeOverCancelled &cancelled) {
+    } catch (const Cancelled &cancelled) {
         m_messages.say(this, cancelled.text(), MessageIcon::Information);
         return false;
     } catch (const DatabaseError &error) {

@@ -1,20 +1,13 @@
 #pragma once
 
 #include "BackupFiles.h"
+#include "Cancelled.h"
 #include "DatabaseError.h"
 #include "WorkStage.h"
 
 #include <optional>
 
 class Database;
-
-/// Thrown when the user stopped a backup, a check or a restore; all is as it
-/// was before.
-class BackupCancelled : public DatabaseError
-{
-public:
-    BackupCancelled() : DatabaseError(QStringLiteral("İşlem durduruldu.")) {}
-};
 
 /// Copies the open database, through this very connection, into the folder of
 /// its backups, and checks the copy: the file appears under a backup's name

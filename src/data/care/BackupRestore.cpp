@@ -31,7 +31,7 @@ void copyFile(const QString &source, const QString &target, const WorkStage &sta
         const WholeFile copy(u"Veri tabanı"_s, target, WholeFile::Readers::OwnerOnly);
         copy.write(file, [&](qint64 written) {
             if (!stage.tell(qMin(1.0, double(written) / size)))
-                throw BackupCancelled();
+                throw Cancelled();
         });
     } catch (const DatabaseError &) {
         throw;
