@@ -2,6 +2,7 @@
 #include "Database.h"
 #include "Exchange.h"
 #include "Passwords.h"
+#include "ReportCsv.h"
 #include "ReportTable.h"
 #include "SampleCompany.h"
 #include "SqlText.h"
