@@ -5,6 +5,8 @@
 #include <QEvent>
 #include <QWidget>
 
+namespace kuyum {
+
 namespace {
 
 class PaintWatcher : public QObject
@@ -31,3 +33,5 @@ void endAtFirstPaint()
 {
     qApp->installEventFilter(new PaintWatcher(qApp));
 }
+
+} // namespace kuyum

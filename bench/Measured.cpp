@@ -4,6 +4,8 @@
 #include <cstdio>
 #include <QElapsedTimer>
 
+namespace kuyum {
+
 namespace {
 
 void printLine(const QString &what, int decimals, double figure, const char *unit)
@@ -49,3 +51,5 @@ void printRatio(const QString &what, double milliseconds, double baseline)
 {
     printLine(what, 2, milliseconds / baseline, "x");
 }
+
+} // namespace kuyum

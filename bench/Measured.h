@@ -4,6 +4,8 @@
 #include <QString>
 #include <vector>
 
+namespace kuyum {
+
 /// How long the work takes.
 double milliseconds(const std::function<void()> &work);
 
@@ -19,3 +21,5 @@ double middleMilliseconds(int runs, const std::function<void()> &work,
 /// times as long as the baseline that is.
 void printMeasured(const QString &what, double milliseconds);
 void printRatio(const QString &what, double milliseconds, double baseline);
+
+} // namespace kuyum

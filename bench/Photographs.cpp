@@ -3,6 +3,8 @@
 #include <QPainter>
 #include <QRandomGenerator>
 
+namespace kuyum {
+
 QImage makePhotograph(int seed, QSize size)
 {
     QRandomGenerator dice{quint32(seed)};
@@ -26,3 +28,5 @@ QImage makePhotograph(int seed, QSize size)
     }
     return image;
 }
+
+} // namespace kuyum

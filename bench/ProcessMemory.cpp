@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QByteArray contentOf(const QString &path)
@@ -30,3 +32,5 @@ qint64 memoryOfTree(qint64 process)
     }
     return kilobytes;
 }
+
+} // namespace kuyum

@@ -17,6 +17,8 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace kuyum;
+
 namespace {
 
 void grow(const QString &path, qint64 bytes)

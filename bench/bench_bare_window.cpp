@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace kuyum;
+
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);

@@ -22,6 +22,8 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace kuyum;
+
 namespace {
 
 constexpr int modelCount = 1000;

@@ -16,6 +16,8 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace kuyum;
+
 namespace {
 
 constexpr int labelCount = 1000;

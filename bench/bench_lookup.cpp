@@ -18,6 +18,8 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace kuyum;
+
 namespace {
 
 constexpr int page = 64;

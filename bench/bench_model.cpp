@@ -17,6 +17,8 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace kuyum;
+
 namespace {
 
 constexpr int modelCount = 30'000;

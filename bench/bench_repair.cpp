@@ -17,6 +17,8 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace kuyum;
+
 namespace {
 
 void makeLines(const QString &path, int count)

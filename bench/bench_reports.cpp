@@ -23,6 +23,8 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace kuyum;
+
 namespace {
 
 constexpr int materialScale = 10; ///< 3,000 models, 600 stones, 250 customers

@@ -15,6 +15,8 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace kuyum;
+
 namespace {
 
 constexpr auto measuredVariable = "KUYUM_BENCH_MEASURED";

@@ -15,6 +15,8 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace kuyum;
+
 namespace {
 
 void require(bool good, const char *what)

@@ -5,7 +5,7 @@ add_library(kuyum_options INTERFACE)
 target_compile_options(kuyum_options INTERFACE -Wall -Wextra $<$<BOOL:${KUYUM_WERROR}>:-Werror>)
 target_compile_definitions(kuyum_options INTERFACE
   QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS
-  QT_DISABLE_DEPRECATED_BEFORE=0x060400 KUYUM_VERSION="${PROJECT_VERSION}")
+  QT_DISABLE_DEPRECATED_BEFORE=0x060400)
 if(KUYUM_SANITIZE)
   target_compile_options(kuyum_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)

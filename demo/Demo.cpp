@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 using Progress = std::function<void(const QString &)>;
@@ -117,3 +119,5 @@ void makeDemo(const QString &folder, int scale, const Progress &progress)
     makeRegistry(site.path(u"sirket.kuyum"_s));
     site.finish();
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include <QDate>
 #include <QString>
 
+namespace kuyum {
+
 /// The demo company: a manufacturer as it might be, to try the program on and
 /// to measure it with.
 
@@ -25,3 +27,5 @@ constexpr int largestDemoScale = 500;
 /// company or cannot be written. Needs a QGuiApplication for the fonts.
 void makeDemo(const QString &folder, int scale,
               const std::function<void(const QString &)> &progress);
+
+} // namespace kuyum

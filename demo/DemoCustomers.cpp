@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct Country
@@ -177,3 +179,5 @@ int fillCustomers(Database &company, int scale)
     }
     return customers;
 }
+
+} // namespace kuyum

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr std::array<DemoType, demoTypeCount> types = {{
@@ -327,3 +329,5 @@ DemoMaterials fillMaterials(Database &company, int scale)
     materials.moldCodes = fillMolds(company, 120 * scale);
     return materials;
 }
+
+} // namespace kuyum

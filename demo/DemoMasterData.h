@@ -3,6 +3,8 @@
 #include <QDate>
 #include <QStringList>
 
+namespace kuyum {
+
 class Database;
 
 /// What every company of the trade holds, whatever its size: currencies and
@@ -34,3 +36,5 @@ void fillRates(Database &company);
 void fillUsers(Database &company);
 void fillLabelTypes(Database &company);
 DemoMaterials fillMaterials(Database &company, int scale);
+
+} // namespace kuyum

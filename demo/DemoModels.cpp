@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Names are spelt as a workshop spells them over the years: with a hyphen, a
@@ -121,3 +123,5 @@ void fillCatalogues(Database &company, int scale, const QList<DemoModel> &models
         }
     }
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+namespace kuyum {
+
 class Database;
 struct DemoMaterials;
 
@@ -17,3 +19,5 @@ struct DemoModel
 /// The models with their bills of materials.
 QList<DemoModel> fillModels(Database &company, int scale, const DemoMaterials &materials);
 void fillCatalogues(Database &company, int scale, const QList<DemoModel> &models);
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int ordersPerScale = 400;
@@ -187,3 +189,5 @@ void fillOrders(Database &company, const DemoOrderPlan &plan, const QList<DemoMo
             progress(place + 1, plan.orders);
     }
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <functional>
 #include <QList>
 
+namespace kuyum {
+
 class Database;
 struct DemoModel;
 
@@ -19,3 +21,5 @@ int demoOrderCount(int scale);
 /// The orders of the last years; tells how many are done.
 void fillOrders(Database &company, const DemoOrderPlan &plan, const QList<DemoModel> &models,
                 const std::function<void(int done, int all)> &progress);
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 void writeJpeg(const QString &path, const QImage &picture)
@@ -59,3 +61,5 @@ void drawPictures(const QString &folder, const QList<DemoModel> &models,
         advance();
     }
 }
+
+} // namespace kuyum

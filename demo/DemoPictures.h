@@ -4,6 +4,8 @@
 #include <QList>
 #include <QString>
 
+namespace kuyum {
+
 struct DemoModel;
 
 /// Draws a picture of every model and mold into the picture folder: molds in
@@ -12,3 +14,5 @@ struct DemoModel;
 void drawPictures(const QString &folder, const QList<DemoModel> &models,
                   const QStringList &moldCodes,
                   const std::function<void(int done, int all)> &progress);
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include "Recordset.h"
 
+namespace kuyum {
+
 void addRow(Recordset &rows, std::initializer_list<DemoField> fields)
 {
     rows.addNew();
@@ -9,3 +11,5 @@ void addRow(Recordset &rows, std::initializer_list<DemoField> fields)
         rows.set(field.name, field.value);
     rows.update();
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include <QStringView>
 #include <QVariant>
 
+namespace kuyum {
+
 class Recordset;
 
 struct DemoField
@@ -14,3 +16,5 @@ struct DemoField
 
 /// Adds one row with these fields.
 void addRow(Recordset &rows, std::initializer_list<DemoField> fields);
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+namespace kuyum {
+
 int Dice::below(int count)
 {
     return int(m_generator() % quint32(count));
@@ -20,3 +22,5 @@ double Dice::decimal(double least, double most, int decimals)
     return roundDecimal(
         between(int(std::lround(least * steps)), int(std::lround(most * steps))) / steps, decimals);
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QList>
 #include <random>
 
+namespace kuyum {
+
 /// The chance in the demo company. The same stream rolls the same numbers on
 /// every system: the generator is fixed to the bit by the language, and the
 /// arithmetic on top of it is ours, since the library's distributions differ
@@ -31,3 +33,5 @@ public:
 private:
     std::mt19937 m_generator;
 };
+
+} // namespace kuyum

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr QSize pictureSize(480, 360);
@@ -389,3 +391,5 @@ QImage drawMold(const QString &code)
     drawCode(p, code);
     return picture;
 }
+
+} // namespace kuyum

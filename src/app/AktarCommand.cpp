@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 volatile std::sig_atomic_t interrupted = 0;
@@ -45,3 +47,5 @@ int aktarCommand(const QStringList &arguments)
                   : u"Bütün tablolar kaynakla karşılaştırıldı, bunlardan başka fark yok."_s);
     return 0;
 }
+
+} // namespace kuyum

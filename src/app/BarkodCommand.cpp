@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr Twips module = 10_tw; ///< as on the labels
@@ -74,3 +76,5 @@ int barkodCommand(const QStringList &arguments)
     output.write(symbolDocument(caption, modules));
     return 0;
 }
+
+} // namespace kuyum

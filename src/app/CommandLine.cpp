@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Every word of the command line, one row each.
@@ -138,3 +140,5 @@ void printError(const QString &line)
 {
     printTo(stderr, line);
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QDate>
 #include <QStringList>
 
+namespace kuyum {
+
 /// The words by which the program works without a window.
 
 constexpr int exitRefused = 1;    ///< the reason is on standard error, in Turkish
@@ -56,3 +58,5 @@ int yedekleCommand(const QStringList &arguments);
 int geriyukleCommand(const QStringList &arguments);
 int denetleCommand(const QStringList &arguments);
 int demoCommand(const QStringList &arguments);
+
+} // namespace kuyum

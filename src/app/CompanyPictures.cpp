@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 void requirePictureFolder(const QString &folder)
 {
     if (!QFileInfo(folder).isDir())
@@ -36,3 +38,5 @@ QString pictureFolderOf(const QString &database)
     }
     return {};
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// kuyum demo FOLDER [--olcek N]: makes the demo company.
 int demoCommand(const QStringList &arguments)
 {
@@ -27,3 +29,5 @@ int demoCommand(const QStringList &arguments)
     printLine(u"Kullanıcı: Admin, şifre: 1234"_s);
     return 0;
 }
+
+} // namespace kuyum

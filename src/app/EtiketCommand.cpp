@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 [[noreturn]] void refuse(const QString &text)
@@ -117,3 +119,5 @@ int etiketCommand(const QStringList &arguments)
                      : etiketBelgesi(etiket));
     return 0;
 }
+
+} // namespace kuyum

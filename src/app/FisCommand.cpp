@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct FisIstegi
@@ -101,3 +103,5 @@ int fisCommand(const QStringList &arguments)
     writePdf(*orderSlip(oturum, siparis, request.choice, goOn), request.pdf);
     return 0;
 }
+
+} // namespace kuyum

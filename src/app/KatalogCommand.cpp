@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// kuyum katalog DATABASE NAME --bicim 3x5|4x6 --pdf FILE: a catalogue's pages,
 /// as from the screen.
 int katalogCommand(const QStringList &arguments)
@@ -45,3 +47,5 @@ int katalogCommand(const QStringList &arguments)
     writePdf(*(small ? Katalog_46 : Katalog_35)(katalog, pictures, goOn), parser.value(pdf));
     return 0;
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int coarsest = 100; ///< below it the texts cannot be read
@@ -43,3 +45,5 @@ LabelOutput labelOutput(const QCommandLineParser &parser)
         throw WrongUsage();
     return output;
 }
+
+} // namespace kuyum

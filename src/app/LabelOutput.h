@@ -4,6 +4,8 @@
 
 class QCommandLineParser;
 
+namespace kuyum {
+
 /// Where a word of the command line puts its label: into a PDF or a PNG file.
 struct LabelOutput
 {
@@ -19,3 +21,5 @@ void addLabelOutput(QCommandLineParser &parser);
 /// What they say: exactly one file, and for a PNG its resolution. Throws
 /// WrongUsage.
 LabelOutput labelOutput(const QCommandLineParser &parser);
+
+} // namespace kuyum

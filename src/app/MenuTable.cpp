@@ -24,6 +24,8 @@
 #include "Tanim_Uruntipi.h"
 #include "Tanim_User.h"
 
+namespace kuyum {
+
 namespace {
 
 /// The factory of a screen that works with the common services.
@@ -136,3 +138,5 @@ MenuScreens menuTable(ScreenServices &services)
         {19, screen<Dosya_Yenile>(services)},
     };
 }
+
+} // namespace kuyum

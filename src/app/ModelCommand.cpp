@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 [[noreturn]] void refuse(const QString &text)
@@ -56,3 +58,5 @@ int modelCommand(const QStringList &arguments)
         printError(u"Satır Sayısı Geçiyor... (%1 malzeme sığmadı)"_s.arg(sheet.leftOut));
     return 0;
 }
+
+} // namespace kuyum

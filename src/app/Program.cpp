@@ -26,6 +26,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// The last net under every window: an error that a handler let through ends
@@ -145,3 +147,5 @@ int runProgram(int &argc, char **argv)
     QGuiApplication::setWindowIcon(emblemIcon());
     return runSession(application, messages, *registry);
 }
+
+} // namespace kuyum

@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// The options that only the model report knows.
@@ -104,3 +106,5 @@ int raporCommand(const QStringList &arguments)
                  [&] { return reportPages(table.title, report->header(), {{table}}); });
     return 0;
 }
+
+} // namespace kuyum

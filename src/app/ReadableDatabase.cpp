@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 ReadableDatabase openForReading(const QString &path)
 {
     ReadableDatabase result;
@@ -26,3 +28,5 @@ ReadableDatabase openForReading(const QString &path)
     }
     return result;
 }
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 #include <memory>
 #include <QTemporaryDir>
 
+namespace kuyum {
+
 /// A database that a word of the command line only reads. A legacy .mdb is
 /// taken over into a temporary file first, which goes with this object.
 struct ReadableDatabase
@@ -19,3 +21,5 @@ struct ReadableDatabase
 /// Opens a .kuyum or an .mdb for reading; refuses a file of a newer layout.
 /// Throws DatabaseError. Needs a QCoreApplication.
 ReadableDatabase openForReading(const QString &path);
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 void ReportOutput::write(const QList<ReportSheet> &sheets,
                          const std::function<PrintDocument()> &pages) const
 {
@@ -38,3 +40,5 @@ ReportOutput reportOutput(const QCommandLineParser &parser)
         throw WrongUsage();
     return output;
 }
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 
 class QCommandLineParser;
 
+namespace kuyum {
+
 /// Where a word of the command line puts its report: into a CSV file, a
 /// spreadsheet or a PDF.
 struct ReportOutput
@@ -23,3 +25,5 @@ struct ReportOutput
 void addReportOutput(QCommandLineParser &parser);
 /// What they say: exactly one file. Throws WrongUsage.
 ReportOutput reportOutput(const QCommandLineParser &parser);
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 ScreenServices::ScreenServices(Oturum &oturum, Messages &messages)
     : oturum(oturum),
       messages(messages),
@@ -15,3 +17,5 @@ ScreenServices::ScreenServices(Oturum &oturum, Messages &messages)
       excel(spreadsheet, messages)
 {
 }
+
+} // namespace kuyum

@@ -9,6 +9,8 @@
 
 #include <QSettings>
 
+namespace kuyum {
+
 /// What the program hands to its screens; made once, alive as long as they are.
 struct ScreenServices
 {
@@ -29,3 +31,5 @@ struct ScreenServices
     InstalledSpreadsheet spreadsheet;
     ExcelAktar excel;
 };
+
+} // namespace kuyum

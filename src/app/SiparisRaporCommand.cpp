@@ -15,6 +15,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// What a report on one order is asked for with.
@@ -127,3 +129,5 @@ int siparisRaporCommand(const QStringList &arguments)
     write(oturum, request);
     return 0;
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include "Csv.h"
 #include "ReadableDatabase.h"
 
+namespace kuyum {
+
 /// kuyum sorgu DATABASE "SELECT ...": one SELECT as CSV, read-only.
 int sorguCommand(const QStringList &arguments)
 {
@@ -15,3 +17,5 @@ int sorguCommand(const QStringList &arguments)
         printLine(csvRow(rows));
     return 0;
 }
+
+} // namespace kuyum

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct UretimIstegi
@@ -111,3 +113,5 @@ int uretimCommand(const QStringList &arguments)
     writePdf(*uretimRaporu(oturum, liste, request.yazdirma, goOn), request.pdf);
     return 0;
 }
+
+} // namespace kuyum

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 void refuseLegacy(const QString &path)
@@ -74,3 +76,5 @@ int denetleCommand(const QStringList &arguments)
         printLine(line);
     return check.isSound() ? 0 : exitRefused;
 }
+
+} // namespace kuyum

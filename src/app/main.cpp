@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace kuyum;
+
 int main(int argc, char **argv)
 {
     if (const std::optional<int> result = runTakeOverStep(argc, argv))

@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 // A character's value is its place in the list, and its pattern the one at the
@@ -203,3 +205,5 @@ void encode(Symbology symbology, const QString &text, const TakeBarPart &take)
     }
     take({quietZone, {}});
 }
+
+} // namespace kuyum

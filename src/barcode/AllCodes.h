@@ -4,6 +4,8 @@
 
 #include <optional>
 
+namespace kuyum {
+
 /// The symbologies beside EAN-13.
 enum class Symbology { Code39, Code128, Interleaved2of5, Codabar };
 
@@ -20,3 +22,5 @@ std::optional<Symbology> symbologyNamed(QStringView word);
 /// - Codabar: between two "A", unless the text brings a start and a stop
 ///   letter (A to D) of its own.
 void encode(Symbology symbology, const QString &text, const TakeBarPart &take);
+
+} // namespace kuyum

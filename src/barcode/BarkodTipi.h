@@ -4,6 +4,8 @@
 
 #include <optional>
 
+namespace kuyum {
+
 /// A field of a label type: a text, with placeholders in it, at its place.
 struct BarkodAlani
 {
@@ -31,3 +33,5 @@ struct BarkodTipi
     QList<BarkodAlani> alanlar;  ///< those that are printed
     QList<OzelUrun> ozelUrunler; ///< empty unless it is a label of special products
 };
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int digitCount = 12; ///< without the check digit
@@ -105,3 +107,5 @@ QString ean13Modules(const QString &code)
     encodeEan13(code, [&](const BarPart &part) { modules += part.modules; });
     return modules;
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <functional>
 #include <QString>
 
+namespace kuyum {
+
 /// A stretch of a symbol that is drawn in one go.
 struct BarPart
 {
@@ -26,3 +28,5 @@ QString ean13Digits(const QString &code);
 
 /// All modules of the symbol.
 QString ean13Modules(const QString &code);
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr double secondColumn = 450;
@@ -31,3 +33,5 @@ PrintDocument etiketBelgesi(const Etiket &etiket)
     YazdirYeni(secondColumn, 50, described ? etiket.Aciklama : etiket.UrunTipi, 8);
     return document;
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include "PrintDocument.h"
 
+namespace kuyum {
+
 /// What stands on a product's label.
 struct Etiket
 {
@@ -17,3 +19,5 @@ struct Etiket
 /// The label of the fixed layout: one page on label paper. Throws
 /// std::runtime_error for a number that is no barcode.
 PrintDocument etiketBelgesi(const Etiket &etiket);
+
+} // namespace kuyum

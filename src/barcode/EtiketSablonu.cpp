@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr Twips edge = labelUnits(5); ///< kept free at the paper's edge
@@ -186,3 +188,5 @@ QStringList coveredFields(const BarkodTipi &tip)
     }
     return names;
 }
+
+} // namespace kuyum

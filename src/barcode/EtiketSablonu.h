@@ -6,6 +6,8 @@
 #include <QMap>
 #include <QStringList>
 
+namespace kuyum {
+
 /// A placeholder that stands for something which is asked of the user, since
 /// the company's files do not have it.
 struct SorulanAlan
@@ -39,3 +41,5 @@ PrintDocument sablonBelgesi(const Etiket &etiket, const BarkodTipi &tip,
 /// The fields that the symbol covers, as their texts in the template. The
 /// symbol is printed over them, so that it can be read in any case.
 QStringList coveredFields(const BarkodTipi &tip);
+
+} // namespace kuyum

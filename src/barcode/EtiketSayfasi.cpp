@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// 13 dots at 203 dpi. The longest model code of 30 characters just fits.
@@ -43,3 +45,5 @@ void fittedText(PrintDocument &document, PagePoint at, const QString &text, Twip
     document.text(at, line);
     document.setFont(wanted);
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include "PrintDocument.h"
 
+namespace kuyum {
+
 /// What all labels have in common: their units, their paper, their symbol.
 
 /// The unit of the labels' positions: half a point. A row of 20 units then
@@ -34,3 +36,5 @@ PageBars labelSymbol(const QString &number, Twips room);
 /// Puts a text on the label that ends before a place: set smaller, down to
 /// 4.5 points, where it is too long, and cut with "…" where that does not do.
 void fittedText(PrintDocument &document, PagePoint at, const QString &text, Twips end);
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// A sheet's label; what no sheet has is taken for the first.
@@ -143,3 +145,5 @@ QList<OzelUrun> EtiketStore::ozelUrunler(qint32 btipno) const
             {Kayit.text(u"BarkodKod_Kod").trimmed(), Kayit.text(u"BarkodKod_Isim").trimmed()});
     return products;
 }
+
+} // namespace kuyum

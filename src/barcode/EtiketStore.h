@@ -3,6 +3,8 @@
 #include "BarkodTipi.h"
 #include "Etiket.h"
 
+namespace kuyum {
+
 struct Oturum;
 
 /// A model as the label screen finds it.
@@ -43,3 +45,5 @@ private:
 
     Oturum *m_oturum;
 };
+
+} // namespace kuyum

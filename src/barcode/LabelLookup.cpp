@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Record numbers without a gap between them: `Ilk` to `Son`.
@@ -148,3 +150,5 @@ void retireLabels(Oturum &oturum, const QString &model, qint32 TipID)
         rows.update();
     }
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include "ProductLabel.h"
 
+namespace kuyum {
+
 struct Oturum;
 
 /// What a scanned product label stands for.
@@ -52,3 +54,5 @@ private:
 /// Belongs into the transaction that replaces or removes the records. Throws
 /// DatabaseError.
 void retireLabels(Oturum &oturum, const QString &model, qint32 TipID);
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int captionPoints = 10;
@@ -59,3 +61,5 @@ void BarkodCiz(BarkodYuzeyi &pBarkod, const QString &code, const BarkodOlculeri 
                          sizes.moduleWidth);
     });
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <QImage>
 
+namespace kuyum {
+
 /// What a symbol takes with its right quiet zone and the captions below, at the
 /// sizes that are drawn unless others are given.
 constexpr QSize symbolUnits(112, 46);
@@ -40,3 +42,5 @@ struct BarkodOlculeri
 /// digit, but for the first, which then counts as 0; what was drawn before it
 /// stays.
 void BarkodCiz(BarkodYuzeyi &pBarkod, const QString &code, const BarkodOlculeri &sizes = {});
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr QStringView prefix = u"16"; ///< of every product's label
@@ -31,3 +33,5 @@ std::optional<ProductLabel> readLabel(QStringView text)
         numbers.sliced(typeDigits.size(), recordDigits.size()).toInt(),
     };
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <optional>
 #include <QString>
 
+namespace kuyum {
+
 /// What a product label's barcode says: "16", the product type in 3 digits,
 /// the model record in 7 and the check digit.
 struct ProductLabel
@@ -20,3 +22,5 @@ QString barcodeNumber(const ProductLabel &label);
 
 /// Reads a scanned label; nothing for a text that is none.
 std::optional<ProductLabel> readLabel(QStringView text);
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <exception>
 #include <QString>
 
+namespace kuyum {
+
 /// The user stopped a work, and nothing of it stands. No failure: whoever
 /// catches those lets it pass.
 class Cancelled : public std::exception
@@ -19,3 +21,5 @@ private:
     QString m_text;
     QByteArray m_what;
 };
+
+} // namespace kuyum

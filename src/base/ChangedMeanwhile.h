@@ -4,6 +4,8 @@
 #include <QString>
 #include <stdexcept>
 
+namespace kuyum {
+
 /// One thing in which a record that is to be saved differs from the one that
 /// stands, as it is told to the user.
 struct FieldChange
@@ -42,3 +44,5 @@ private:
     Save m_save;
     bool m_stands;
 };
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 QString csvQuoted(QString text)
 {
     return u'"' + text.replace(u'"', u"\"\""_s) + u'"';
@@ -31,3 +33,5 @@ QString csvValue(const QVariant &value)
         return value.toString();
     }
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 QDate noDate()
 {
     return {2000, 1, 1};
@@ -84,3 +86,5 @@ QDateTime parseIso(QStringView text)
     const QTime time = QTime::fromString(text.sliced(11).toString(), Qt::ISODate);
     return time.isValid() ? QDateTime(date, time, Qt::UTC) : QDateTime();
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QDateTime>
 #include <QString>
 
+namespace kuyum {
+
 /// Dates are typed and shown day.month.year and stored as ISO text.
 
 /// 01.01.2000, which in stored rows stands for "no date".
@@ -28,3 +30,5 @@ QString isoText(const QDateTime &moment);
 
 /// Reads the stored form back (a wall clock reading; held as UTC so that no zone can shift it).
 QDateTime parseIso(QStringView text);
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// How many characters from the start of the text are a number.
@@ -152,3 +154,5 @@ QString formatNumber(double value, QStringView picture)
         result += u'.' + decimals;
     return result;
 }
+
+} // namespace kuyum

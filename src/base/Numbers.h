@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace kuyum {
+
 /// Numbers as the screens take, store and show them: with a decimal point; a
 /// typed comma counts as one.
 
@@ -37,3 +39,5 @@ double roundDecimal(double value, int decimals);
 /// 0 is a digit that always shows, # one that shows when it counts, and a
 /// comma groups thousands.
 QString formatNumber(double value, QStringView picture);
+
+} // namespace kuyum

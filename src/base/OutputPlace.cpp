@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr std::array databaseEndings = {".kuyum"_L1, ".mdb"_L1, ".mde"_L1, ".accdb"_L1};
@@ -95,3 +97,5 @@ QString outputRefusal(const QString &path)
         return u"Bu dosya bir veri tabanı; üzerine yazılmaz. Başka bir ad verin."_s;
     return {};
 }
+
+} // namespace kuyum

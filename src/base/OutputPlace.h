@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace kuyum {
+
 /// Where a file may be written, for every output of every command and screen.
 /// A slip in a file's name must never cost a company.
 
@@ -25,3 +27,5 @@ QString placeRefusal(const QString &path);
 /// placeRefusal(), and a database or a name that databases bear. Empty where
 /// one may.
 QString outputRefusal(const QString &path);
+
+} // namespace kuyum

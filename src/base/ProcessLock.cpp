@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// More than a process needs to write its name into the file it has made.
@@ -62,3 +64,5 @@ bool takeProcessLock(QLockFile &lock)
     removeGuards(lock.fileName());
     return true;
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <array>
 
+namespace kuyum {
+
 namespace {
 
 /// Latin letters in Turkish alphabetical order; the letters between two blanks
@@ -187,3 +189,5 @@ QString searchKey(QStringView text)
         return c == u'I' || c == u'İ' || c == u'ı' ? QChar(u'i') : c.toCaseFolded();
     });
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace kuyum {
+
 /// How a person's text is compared, ordered and put into capitals.
 ///
 /// The tables are our own, the same on every system: the locale-free
@@ -38,3 +40,5 @@ struct TextLess
 {
     bool operator()(const QString &a, const QString &b) const { return compareText(a, b) < 0; }
 };
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include <compare>
 #endif
 
+namespace kuyum {
+
 /// A distance on paper: 1/1440 inch. Its own type, so that twips, pixels and
 /// points cannot be mixed up.
 class Twips
@@ -37,3 +39,5 @@ constexpr Twips operator""_tw(unsigned long long count)
 {
     return Twips(static_cast<double>(count));
 }
+
+} // namespace kuyum

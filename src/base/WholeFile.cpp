@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 WholeFile::WholeFile(const QString &kind, const QString &path, Readers readers)
     : m_kind(kind), m_path(path), m_readers(readers)
 {
@@ -60,3 +62,5 @@ void WholeFile::refuseFullDisk() const
 {
     refuse(u"Diske yazılamadı; disk dolu olabilir."_s);
 }
+
+} // namespace kuyum

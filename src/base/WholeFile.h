@@ -6,6 +6,8 @@
 
 class QIODevice;
 
+namespace kuyum {
+
 /// A file that comes into its place whole or not at all; what was there before
 /// stays until then. Throws std::runtime_error with a Turkish text.
 class WholeFile
@@ -33,3 +35,5 @@ private:
     QString m_path;
     Readers m_readers;
 };
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <array>
 #include <QStringDecoder>
 
+namespace kuyum {
+
 namespace {
 
 /// The codes 0x80 to 0x9f; 0 where the code page has none.
@@ -79,3 +81,5 @@ std::optional<QByteArray> encodedText(const QString &text, TextCode code)
     }
     return bytes;
 }
+
+} // namespace kuyum

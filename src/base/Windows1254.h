@@ -4,6 +4,8 @@
 #include <QByteArray>
 #include <QString>
 
+namespace kuyum {
+
 /// The Turkish code page of Windows, in which passwords are scrambled and in
 /// which older programs wrote their text files. Codes without a character of
 /// their own stand for themselves, so that every code comes back.
@@ -21,3 +23,5 @@ TextCode textCodeOf(const QByteArray &bytes);
 QString decodedText(const QByteArray &bytes);
 /// Nothing when the code lacks a character of the text.
 std::optional<QByteArray> encodedText(const QString &text, TextCode code);
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+namespace kuyum {
+
 /// A model in a catalogue.
 struct KatalogSatiri
 {
@@ -28,3 +30,5 @@ struct Katalog
     bool isStored() const { return !satirlar.isEmpty() || !keptRows.isEmpty(); }
     friend bool operator==(const Katalog &, const Katalog &) = default;
 };
+
+} // namespace kuyum

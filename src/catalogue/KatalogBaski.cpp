@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr double picturesPerInch = 200; ///< dots
@@ -245,3 +247,5 @@ std::optional<PrintDocument> Katalog_46(const Katalog &katalog, const QString &R
 {
     return KatalogBaski(katalogSayfasi46, katalog, ResimYolu).write(progress);
 }
+
+} // namespace kuyum

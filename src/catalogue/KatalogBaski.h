@@ -6,6 +6,8 @@
 
 #include <optional>
 
+namespace kuyum {
+
 /// One page form of a catalogue: so many pictures across and down.
 struct KatalogSayfasi
 {
@@ -34,3 +36,5 @@ std::optional<PrintDocument> Katalog_35(const Katalog &katalog, const QString &R
                                         const PictureProgress &progress);
 std::optional<PrintDocument> Katalog_46(const Katalog &katalog, const QString &ResimYolu,
                                         const PictureProgress &progress);
+
+} // namespace kuyum

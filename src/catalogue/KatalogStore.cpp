@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 void addRow(Recordset &rows, const QString &KatAdi, const KatalogSatiri &satir)
@@ -147,3 +149,5 @@ void KatalogStore::deleteRows(const QString &KatAdi) const
     m_oturum->calistir(u"DELETE From KatalogSira"_s + ofName);
     m_oturum->calistir(u"DELETE From Katalog"_s + ofName);
 }
+
+} // namespace kuyum

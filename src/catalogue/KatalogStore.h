@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// Finds, saves and removes catalogues. Everything throws DatabaseError.
@@ -33,3 +35,5 @@ private:
 
     Oturum *m_oturum;
 };
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <sqlite3.h>
 
+namespace kuyum {
+
 BulkStatement::BulkStatement(const SqliteEngine &engine, const QString &sql) : m_engine(engine)
 {
     const QByteArray utf8 = sql.toUtf8();
@@ -97,3 +99,5 @@ void BulkStatement::column(int place, RawValue &value) const
         value.setNull();
     }
 }
+
+} // namespace kuyum

@@ -4,8 +4,11 @@
 
 #include <QString>
 
-class SqliteEngine;
 struct sqlite3_stmt;
+
+namespace kuyum {
+
+class SqliteEngine;
 
 /// One prepared statement for very many rows, without a QVariant per value.
 /// Takes the engine's own SQL. Failures are DatabaseErrors.
@@ -33,3 +36,5 @@ private:
     const SqliteEngine &m_engine;
     sqlite3_stmt *m_statement = nullptr;
 };
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Somebody opens, looks whether the file is held, or closes: moments.
@@ -120,3 +122,5 @@ void CompanyLock::removeFile()
     close();
     QFile::remove(m_path);
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 struct sqlite3;
 
+namespace kuyum {
+
 /// Tells every program, of whatever user, that a company is open: all that work
 /// with it share the lock, and who puts another file in its place wants it
 /// alone. The system frees it when a process ends, however it does.
@@ -32,3 +34,5 @@ private:
     QString m_path;
     sqlite3 *m_file = nullptr;
 };
+
+} // namespace kuyum

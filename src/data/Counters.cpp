@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 bool hasCounter(const TableDef &table, const QString &name)
@@ -255,3 +257,5 @@ QHash<qint64, std::optional<qint64>> numbersBefore(const Database &db, const QSt
     }
     return numbers;
 }
+
+} // namespace kuyum

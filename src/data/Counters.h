@@ -5,6 +5,8 @@
 #include <optional>
 #include <QHash>
 
+namespace kuyum {
+
 class Database;
 
 /// A counter numbers a table's rows: a table of the description without it is
@@ -26,3 +28,5 @@ void completeCounters(Database &db, const QList<TableDef> &description);
 /// For the rows of a table that were given a new number: the number they had
 /// before, by the one they have; nothing where they had none.
 QHash<qint64, std::optional<qint64>> numbersBefore(const Database &db, const QString &table);
+
+} // namespace kuyum

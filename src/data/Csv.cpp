@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// A date that was computed (the latest of a group, say) comes without the
 /// field's type; its stored form tells.
 static bool isStoredDate(const QString &text)
@@ -36,3 +38,5 @@ QString csvRow(const Recordset &rows)
     }
     return values.join(u',');
 }
+
+} // namespace kuyum

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 // An index is named after its table, because SQLite keeps all names in one
@@ -243,3 +245,5 @@ void Database::setSchemaVersion(int version)
 {
     m_engine->run(u"PRAGMA user_version = %1"_s.arg(version));
 }
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 #include <memory>
 #include <QString>
 
+namespace kuyum {
+
 class CompanyLock;
 class SqliteEngine;
 
@@ -65,3 +67,5 @@ private:
     std::unique_ptr<CompanyLock> m_lock; ///< let go of after the file
     std::unique_ptr<SqliteEngine> m_engine;
 };
+
+} // namespace kuyum

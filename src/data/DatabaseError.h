@@ -3,6 +3,8 @@
 #include <QString>
 #include <stdexcept>
 
+namespace kuyum {
+
 /// A failure of the database, with the engine's own text. Every failure of
 /// this layer is thrown as one of these; none is left in a return value.
 class DatabaseError : public std::runtime_error
@@ -31,3 +33,5 @@ private:
     Cause m_cause;
     int m_number;
 };
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Our names of the functions whose names or results differ in SQLite.
@@ -243,3 +245,5 @@ TranslatedSql translateSql(QStringView sql)
 {
     return Translator(sql).translate();
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace kuyum {
+
 /// The product's SQL, as the legacy engine understands it, translated for
 /// SQLite. This is the one place that knows the differences:
 /// Top n, IIf, IsNull, Left, Format, DateValue, [brackets], "double quoted"
@@ -22,3 +24,5 @@ TranslatedSql translateSql(QStringView sql);
 
 /// A name as SQLite takes it literally.
 QString quotedName(QStringView name);
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// False is stored as a 0.
@@ -68,3 +70,5 @@ int shownSize(const FieldDef &field)
 {
     return field.size > 0 ? field.size : entryOf(field.type).bytes;
 }
+
+} // namespace kuyum

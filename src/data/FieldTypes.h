@@ -2,6 +2,8 @@
 
 #include "TableDef.h"
 
+namespace kuyum {
+
 /// What the screens call a field's type: "Boolean", "Long", "Text" and so on.
 QString typeName(FieldType type);
 
@@ -13,3 +15,5 @@ QVariant neutralValue(FieldType type);
 /// The size that the field's type is told with: the characters of a Text, the
 /// bytes of a Binary and of numbers; 0 where lengths differ.
 int shownSize(const FieldDef &field);
+
+} // namespace kuyum

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 [[noreturn]] void refuse(const FieldDef &field, const QVariant &value)
@@ -122,3 +124,5 @@ QVariant readValue(FieldType type, const QVariant &stored)
         return stored.toInt() != 0;
     return stored;
 }
+
+} // namespace kuyum

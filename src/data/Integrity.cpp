@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// While it lives, the engine asks the stage now and then whether to go on.
@@ -142,3 +144,5 @@ QMap<QString, qint64> rowCounts(const SqliteEngine &engine)
     }
     return counts;
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 #include <QMap>
 #include <QStringList>
 
+namespace kuyum {
+
 class Database;
 class SqliteEngine;
 
@@ -21,3 +23,5 @@ void refuseDamaged(const Database &db, std::chrono::milliseconds limit);
 
 /// How many rows each table has, the bookkeeping ones too.
 QMap<QString, qint64> rowCounts(const SqliteEngine &engine);
+
+} // namespace kuyum

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 const QString placeField = u"#"_s;
@@ -195,3 +197,5 @@ LoadedRows LoadedRows::row(const QString &table, const QString &where, const QSt
     result.m_parts.append(one);
     return result;
 }
+
+} // namespace kuyum

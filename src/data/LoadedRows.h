@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QVariant>
 
+namespace kuyum {
+
 class Database;
 
 /// How users know a field.
@@ -110,3 +112,5 @@ private:
 
     QList<Part> m_parts;
 };
+
+} // namespace kuyum

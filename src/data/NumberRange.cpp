@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct WholeRange
@@ -60,3 +62,5 @@ QString whyNumberDoesNotFit(const FieldDef &field, double number)
                                                         : std::numeric_limits<double>::max();
     return std::fabs(number) <= most ? QString() : u"bu kadar büyük bir sayı olamaz."_s;
 }
+
+} // namespace kuyum

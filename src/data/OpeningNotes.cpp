@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QStringList notesWhere(const Database &db, const QString &condition)
@@ -54,3 +56,5 @@ QString notesText(const QStringList &notes)
                                                                                    shown);
     return text;
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+namespace kuyum {
+
 class Database;
 
 /// What the user has to know about a company that was taken over or mended
@@ -18,3 +20,5 @@ void markNotesTold(Database &db);
 
 /// The notes as one text for a message, the first ones of many.
 QString notesText(const QStringList &notes);
+
+} // namespace kuyum

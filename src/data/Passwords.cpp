@@ -5,6 +5,8 @@
 #include <limits>
 #include <stdexcept>
 
+namespace kuyum {
+
 namespace {
 
 constexpr qsizetype highestCode = std::numeric_limits<qint16>::max();
@@ -57,3 +59,5 @@ std::optional<qsizetype> firstUnstorable(const QString &text)
     }
     return std::nullopt;
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <optional>
 #include <QString>
 
+namespace kuyum {
+
 /// Stored passwords: each character moved up by its place (the first by 1), as
 /// Windows-1254 codes, and beyond the code page as Unicode's. Only hides them
 /// from a passing glance.
@@ -15,3 +17,5 @@ QString SifreCoz(const QString &scrambled);
 /// The index of the first character that SifreCoz would not give back from
 /// what Sifrele makes of it; nothing when the text can be a password.
 std::optional<qsizetype> firstUnstorable(const QString &text);
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+namespace kuyum {
+
 /// One field's value as the engine stores it, without the cost of a QVariant:
 /// what a take-over moves by the million. Text is UTF-8.
 struct RawValue
@@ -33,3 +35,5 @@ struct RawValue
     }
     void setText(std::string_view utf8) { setBytes(Kind::Text, utf8.data(), utf8.size()); }
 };
+
+} // namespace kuyum

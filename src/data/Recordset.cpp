@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Recordset Database::query(const QString &sql)
 {
     const TranslatedSql translated = translateSql(sql);
@@ -203,3 +205,5 @@ void Recordset::remove()
     s.engine.run(u"DELETE FROM %1 WHERE _rowid_ = ?"_s.arg(quotedName(table.name)), {s.row.last()});
     s.onRow = false;
 }
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QVariant>
 
+namespace kuyum {
+
 class Database;
 
 /// The rows of a query or a table, read one after the other, lazily. Fields
@@ -70,3 +72,5 @@ private:
 
     std::unique_ptr<State> m_state;
 };
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Recordset::State::State(Database &database, const TranslatedSql &sql)
     : db(database),
       engine(database.engine()),
@@ -162,3 +164,5 @@ void Recordset::State::restart(const QString &sql, const QVariantList &values)
     remaining.clear();
     remainingAt = 0;
 }
+
+} // namespace kuyum

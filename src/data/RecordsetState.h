@@ -10,6 +10,8 @@
 #include <QMap>
 #include <QSqlQuery>
 
+namespace kuyum {
+
 /// What a Recordset holds: its running query, the current row and the change
 /// that was begun on it.
 struct Recordset::State
@@ -61,3 +63,5 @@ struct Recordset::State
     QSqlQuery insertStatement;
     QStringList insertFields;
 };
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 QString Reference::bearsCode() const
 {
     QStringList conditions;
@@ -41,3 +43,5 @@ const QList<Reference> &companyReferences()
     };
     return all;
 }
+
+} // namespace kuyum

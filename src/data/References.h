@@ -3,6 +3,8 @@
 #include <QList>
 #include <QStringList>
 
+namespace kuyum {
+
 /// Codes of one company table that stand for rows of another. 0 and the empty
 /// text stand for no code in every field here.
 struct Reference
@@ -19,3 +21,5 @@ struct Reference
 };
 
 const QList<Reference> &companyReferences();
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <cmath>
 #include <QHashFunctions>
 
+namespace kuyum {
+
 void RowChecksum::add(const RawValue &value)
 {
     const auto append = [this](const void *data, size_t size) {
@@ -42,3 +44,5 @@ void RowChecksum::endRow()
     ++m_rows;
     m_row.clear();
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <string>
 
+namespace kuyum {
+
 /// A sum over all values of a table's rows that does not depend on the order
 /// of the rows. Two tables have the same one only when they hold the same
 /// rows the same number of times. It means something within one process only.
@@ -25,3 +27,5 @@ private:
     quint64 m_sum = 0;
     qint64 m_rows = 0;
 };
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Nothing and an empty text are the same to a user.
@@ -245,3 +247,5 @@ QString RowComparison::summary(const Row &row) const
     }
     return parts.isEmpty() ? u"var"_s : parts.join(u", "_s);
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <map>
 
+namespace kuyum {
+
 /// The rows of one table three times: as they were loaded, as they stand, and
 /// as a save would leave them.
 class RowComparison
@@ -50,3 +52,5 @@ private:
     Pairs m_standingToMine;
     Pairs m_loadedToMine;
 };
+
+} // namespace kuyum

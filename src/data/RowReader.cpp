@@ -4,6 +4,8 @@
 #include "Database.h"
 #include "Dialect.h"
 
+namespace kuyum {
+
 RowReader::RowReader(const Database &db, const QString &sql)
     : m_rows(std::make_unique<BulkStatement>(db.engine(), translateSql(sql).text)),
       m_values(size_t(m_rows->columnCount()))
@@ -57,3 +59,5 @@ QString RowReader::text(int column)
     const std::optional<std::string_view> bytes = utf8(column);
     return bytes ? QString::fromUtf8(bytes->data(), qsizetype(bytes->size())) : QString();
 }
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 #include <QString>
 #include <vector>
 
+namespace kuyum {
+
 class BulkStatement;
 class Database;
 
@@ -39,3 +41,5 @@ private:
     std::unique_ptr<BulkStatement> m_rows;
     std::vector<RawValue> m_values; ///< their memory is used from row to row
 };
+
+} // namespace kuyum

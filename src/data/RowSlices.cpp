@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 RowSlices::RowSlices(const Database &db, const QString &table)
     : m_db(db), m_table(quotedName(table)), m_last(std::numeric_limits<qint64>::min())
 {
@@ -32,3 +34,5 @@ QString RowSlices::condition()
 {
     return u"_rowid_ > ? AND _rowid_ <= ?"_s;
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QString>
 #include <QVariant>
 
+namespace kuyum {
+
 class Database;
 
 /// Walks a table in slices of many rows, so that what changes all of them by
@@ -30,3 +32,5 @@ private:
     qint64 m_last;      ///< the slice's own last one
     qint64 m_rowsDone = 0;
 };
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Savepoint::Savepoint(Database &database) : m_database(&database)
 {
     database.engine().run(u"SAVEPOINT kuyum"_s);
@@ -35,3 +37,5 @@ void Savepoint::undo()
     engine.run(u"ROLLBACK TO kuyum"_s);
     engine.run(u"RELEASE kuyum"_s);
 }
+
+} // namespace kuyum

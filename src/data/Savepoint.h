@@ -1,5 +1,7 @@
 #pragma once
 
+namespace kuyum {
+
 class Database;
 
 /// A part of a running transaction that can be undone alone. What lies between
@@ -21,3 +23,5 @@ public:
 private:
     Database *m_database;
 };
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 FieldDef text(const QString &name, int size)
@@ -324,3 +326,5 @@ std::unique_ptr<Database> createRegistry(const QString &path)
 {
     return createWith(path, registryTables());
 }
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 #include <memory>
 #include <QString>
 
+namespace kuyum {
+
 class Database;
 
 /// The one description of all tables: it makes a new company or registry,
@@ -45,3 +47,5 @@ std::unique_ptr<Database> openRegistry(const QString &path);
 /// Makes an empty company or registry file.
 std::unique_ptr<Database> createCompany(const QString &path);
 std::unique_ptr<Database> createRegistry(const QString &path);
+
+} // namespace kuyum

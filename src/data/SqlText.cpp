@@ -2,6 +2,8 @@
 
 #include "Dates.h"
 
+namespace kuyum {
+
 QString sqlText(QStringView text)
 {
     QString doubled = text.toString();
@@ -13,3 +15,5 @@ QString sqlDate(QDate date)
 {
     return QStringLiteral("DateValue('%1')").arg(formatDate(date));
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QDate>
 #include <QString>
 
+namespace kuyum {
+
 /// The only ways by which a value gets into SQL text.
 
 /// 'text', with every apostrophe doubled.
@@ -12,3 +14,5 @@ QString sqlText(QStringView text);
 QString sqlDate(QDate date);
 
 // Numbers: sqlNumber() of Numbers.h.
+
+} // namespace kuyum

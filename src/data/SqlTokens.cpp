@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 bool isWordStart(QChar c)
@@ -146,3 +148,5 @@ void refuseSql(const QString &why, QStringView sql)
 {
     throw DatabaseError(u"%1: %2"_s.arg(why, sql.toString()));
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+namespace kuyum {
+
 /// The words and signs of an SQL text in the product's dialect.
 struct SqlToken
 {
@@ -24,3 +26,5 @@ QList<SqlToken> sqlTokens(QStringView sql);
 
 /// Throws a DatabaseError that shows the statement.
 [[noreturn]] void refuseSql(const QString &why, QStringView sql);
+
+} // namespace kuyum

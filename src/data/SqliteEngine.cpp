@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 sqlite3 *handleOf(const QSqlDatabase &database)
@@ -239,3 +241,5 @@ QList<SqliteEngine::Column> SqliteEngine::columns(const QSqlQuery &query)
     }
     return result;
 }
+
+} // namespace kuyum

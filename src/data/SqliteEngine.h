@@ -11,6 +11,8 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
+namespace kuyum {
+
 /// The engine behind a Database: one SQLite file through Qt SQL, set up so
 /// that it compares text, computes and keeps data safe as this product needs.
 /// Takes SQLite's own SQL. Nothing outside data/ sees it.
@@ -55,3 +57,5 @@ private:
     QString m_connection;
     QSqlDatabase m_database;
 };
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 int collate(void *, int aBytes, const void *a, int bBytes, const void *b)
@@ -230,3 +232,5 @@ void registerSqliteFunctions(sqlite3 *connection)
     if (result != SQLITE_OK)
         throw DatabaseError(QString::fromUtf8(sqlite3_errmsg(connection)));
 }
+
+} // namespace kuyum

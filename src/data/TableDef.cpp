@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct Declared
@@ -98,3 +100,5 @@ int TableDef::textLimit(QStringView name) const
     const FieldDef *def = field(name);
     return def != nullptr && def->type == FieldType::Text ? def->size : 0;
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QVariant>
 
+namespace kuyum {
+
 /// What a field can hold: the types of the legacy engine. Date is a moment
 /// with a time of day. LongBinary is an OLE object. A legacy file has no Time;
 /// a database that another program made can.
@@ -60,3 +62,5 @@ struct TableDef
     /// limit, or no such field.
     int textLimit(QStringView name) const;
 };
+
+} // namespace kuyum

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Until it takes the old one's name; no screen sees a table of this beginning.
@@ -131,3 +133,5 @@ void rebuildTable(Database &db, const TableDef &wanted,
     engine.run(u"DROP TABLE "_s + quotedName(present.name));
     engine.run(u"ALTER TABLE %1 RENAME TO %2"_s.arg(interim.name, quotedName(present.name)));
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <functional>
 #include <QtGlobal>
 
+namespace kuyum {
+
 class Database;
 struct TableDef;
 
@@ -17,3 +19,5 @@ struct TableDef;
 /// rowsDone is told now and then; what it throws ends the work.
 void rebuildTable(Database &db, const TableDef &wanted,
                   const std::function<void(qint64 rows)> &rowsDone);
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Transaction::Transaction(Database &database) : m_database(&database)
 {
     // Takes the write lock at once: a transaction that could not be written is
@@ -34,3 +36,5 @@ void Transaction::commit()
     m_database->engine().run(u"COMMIT"_s);
     m_database = nullptr;
 }
+
+} // namespace kuyum

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace kuyum {
+
 class Database;
 
 /// Everything between construction and commit() is on disk wholly or not at
@@ -17,3 +19,5 @@ public:
 private:
     Database *m_database;
 };
+
+} // namespace kuyum

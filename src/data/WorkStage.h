@@ -3,6 +3,8 @@
 #include <functional>
 #include <utility>
 
+namespace kuyum {
+
 /// How far a work is; false stops it.
 using WorkProgress = std::function<bool(int done, int total)>;
 
@@ -29,3 +31,5 @@ private:
     int m_from = 0;
     int m_to = 0;
 };
+
+} // namespace kuyum

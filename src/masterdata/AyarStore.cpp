@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static QString findSql(double Milyem)
 {
     return u"Select * From Ayar Where Milyem = "_s + sqlNumber(Milyem);
@@ -48,3 +50,5 @@ void AyarStore::remove(double Milyem, LoadedRows &okunan) const
         m_oturum->calistir(u"DELETE From Ayar Where Milyem = "_s + sqlNumber(Milyem));
     });
 }
+
+} // namespace kuyum

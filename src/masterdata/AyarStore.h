@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// Finds, saves and removes karats. Everything throws DatabaseError.
@@ -25,3 +27,5 @@ public:
 private:
     Oturum *m_oturum;
 };
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace kuyum {
+
 /// A customer.
 struct Firma
 {
@@ -21,3 +23,5 @@ struct Ulke
     qint32 ID = 0;
     QString ulke_ADI;
 };
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static QString findSql(qint32 Firkod)
 {
     return u"Select * From Firma Where Firkod = "_s + sqlNumber(Firkod);
@@ -125,3 +127,5 @@ qint32 FirmaStore::ulkeTanimla(const QString &ulke_ADI) const
     addition.commit();
     return ID;
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 #include <optional>
 #include <QList>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// Finds, saves and removes customers, and keeps their countries. Everything
@@ -36,3 +38,5 @@ public:
 private:
     Oturum *m_oturum;
 };
+
+} // namespace kuyum

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 [[noreturn]] void refuse(const QString &what, const QFileDevice &file)
@@ -66,3 +68,5 @@ QString HelpFile::append(QDate date, const QString &text)
         refuse(u"Yardım dosyasına yazılamadı"_s, file);
     return line;
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QDate>
 #include <QStringList>
 
+namespace kuyum {
+
 /// The help text that the users write for each other, `SiparisHelp.txt`
 /// beside the registry, a piece of advice per line.
 class HelpFile
@@ -22,3 +24,5 @@ private:
 
     QString m_path;
 };
+
+} // namespace kuyum

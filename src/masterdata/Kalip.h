@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace kuyum {
+
 /// A mold.
 struct Kalip
 {
@@ -9,3 +11,5 @@ struct Kalip
     QString KalipAck;
     QString KalipDur; ///< "Icerde" or "Disarda"
 };
+
+} // namespace kuyum

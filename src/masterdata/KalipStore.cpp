@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static QString findSql(const QString &KalipKodu)
 {
     return u"Select * From Kalip Where Kalipkodu = "_s + sqlText(KalipKodu.trimmed());
@@ -53,3 +55,5 @@ void KalipStore::remove(const QString &KalipKodu, LoadedRows &okunan) const
                            sqlText(KalipKodu.trimmed()));
     });
 }
+
+} // namespace kuyum

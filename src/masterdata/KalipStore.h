@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// Finds, saves and removes molds. Everything throws DatabaseError.
@@ -24,3 +26,5 @@ public:
 private:
     Oturum *m_oturum;
 };
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 using Value = LookupResult::Value;
@@ -268,3 +270,5 @@ QString lookupText(const QVariant &value, const QString &picture)
     }
     return value.toString();
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 #include <QList>
 #include <QVariant>
 
+namespace kuyum {
+
 /// The lists that `Liste_Combo` knows, as data. A list's rows come from
 /// LookupRows.
 
@@ -59,3 +61,5 @@ LookupAnswer lookupAnswer(const LookupList &list, const QVariantList &row);
 
 /// A value as the list shows it; numbers by the picture when there is one.
 QString lookupText(const QVariant &value, const QString &picture = {});
+
+} // namespace kuyum

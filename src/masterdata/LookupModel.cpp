@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int firstPage = 64;
@@ -302,3 +304,5 @@ void LookupModel::fetchMore(const QModelIndex &)
     // their places while it asks for more of them.
     workUntil([&] { return m_source == nullptr || clock.elapsed() >= sliceMilliseconds; });
 }
+
+} // namespace kuyum

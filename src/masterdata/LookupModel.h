@@ -9,6 +9,8 @@
 #include <QAbstractTableModel>
 #include <QTimer>
 
+namespace kuyum {
+
 /// The rows of an open list for its grid. The first page is there at once; the
 /// rest is read, narrowed and sorted in short slices between the user's keys,
 /// so a list of any length opens in the same time.
@@ -88,3 +90,5 @@ private:
     bool m_working = false;
     QTimer m_timer;
 };
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 bool isNumber(FieldType type)
@@ -155,3 +157,5 @@ std::unique_ptr<LookupRows> openOrders(Oturum &oturum, const QString &condition)
     return std::make_unique<RecordRows>(oturum.sorgula(orderListSql(condition)),
                                         lookupList(orderListName.toString()));
 }
+
+} // namespace kuyum

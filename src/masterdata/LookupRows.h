@@ -5,6 +5,8 @@
 #include <memory>
 #include <QStringList>
 
+namespace kuyum {
+
 struct Oturum;
 
 struct LookupColumn
@@ -35,3 +37,5 @@ std::unique_ptr<LookupRows> openLookup(Oturum &oturum, const LookupList &list,
                                        const QString &filter);
 /// Opens the order list with a condition of orderCondition(), or without one.
 std::unique_ptr<LookupRows> openOrders(Oturum &oturum, const QString &condition);
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QString>
 
+namespace kuyum {
+
 /// What a material of a model is.
 enum class MalzemeTipi {
     Bos, ///< not said yet, in a row just begun
@@ -46,3 +48,5 @@ struct ModelTipi
     QString UrunTipi;
     QString KisaAD;
 };
+
+} // namespace kuyum

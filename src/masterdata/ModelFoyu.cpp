@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr double pictureDpi = 300;
@@ -221,3 +223,5 @@ ModelFoyu modelFoyu(const Model &model, const ModelTipi &tip, const QString &Res
 {
     return Sheet(model, tip, ResimYolu).write();
 }
+
+} // namespace kuyum

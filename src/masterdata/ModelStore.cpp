@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QString keyCondition(const QString &model, qint32 TipID)
@@ -207,3 +209,5 @@ void ModelStore::remove(const QString &model, qint32 TipID, LoadedRows &okunan) 
         m_oturum->calistir(u"DELETE From Model "_s + keyCondition(model, TipID));
     });
 }
+
+} // namespace kuyum

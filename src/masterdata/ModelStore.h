@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// A stone or a mold, found by its code.
@@ -50,3 +52,5 @@ private:
 
     Oturum *m_oturum;
 };
+
+} // namespace kuyum

@@ -2,9 +2,13 @@
 
 #include <QString>
 
+namespace kuyum {
+
 /// A colour.
 struct Renk
 {
     QString RenkNo;
     double Renksira = 0; ///< place in the lists
 };
+
+} // namespace kuyum

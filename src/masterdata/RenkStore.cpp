@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static QString findSql(const QString &RenkNo)
 {
     return u"Select * From Renkler Where Renkno ="_s + sqlText(RenkNo);
@@ -49,3 +51,5 @@ void RenkStore::remove(const QString &RenkNo, LoadedRows &okunan) const
         m_oturum->calistir(u"DELETE From Renkler Where Renkno = "_s + sqlText(RenkNo));
     });
 }
+
+} // namespace kuyum

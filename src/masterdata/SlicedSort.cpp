@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <numeric>
 
+namespace kuyum {
+
 namespace {
 
 constexpr std::size_t firstRun = 512;
@@ -35,3 +37,5 @@ bool SlicedSort::step()
     }
     return m_run >= count;
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <functional>
 #include <vector>
 
+namespace kuyum {
+
 /// Puts the numbers 0..count-1 into an order in many short steps, so that a
 /// long list can be sorted while the user works on. Equal ones keep their places.
 class SlicedSort
@@ -21,3 +23,5 @@ private:
     std::size_t m_run = 0; ///< length of the runs that are in order; 0: none yet
     std::size_t m_at = 0;
 };
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace kuyum {
+
 /// A stone.
 struct Tas
 {
@@ -10,3 +12,5 @@ struct Tas
     QString TasBirimi;     ///< the price's currency
     double TasKatsayi = 0; ///< grams of one stone
 };
+
+} // namespace kuyum

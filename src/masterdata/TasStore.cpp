@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static QString findSql(const QString &Taskodu)
 {
     return u"Select * From Tas Where Taskodu = "_s + sqlText(Taskodu.trimmed());
@@ -65,3 +67,5 @@ QStringList TasStore::birimler() const
         codes.append(Kayit.text(u"Dovcinsi"));
     return codes;
 }
+
+} // namespace kuyum

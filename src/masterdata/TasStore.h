@@ -6,6 +6,8 @@
 #include <optional>
 #include <QStringList>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// Finds, saves and removes stones. Everything throws DatabaseError.
@@ -28,3 +30,5 @@ public:
 private:
     Oturum *m_oturum;
 };
+
+} // namespace kuyum

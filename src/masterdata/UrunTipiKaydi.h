@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace kuyum {
+
 /// A product type, as it is defined.
 struct UrunTipiKaydi
 {
@@ -10,3 +12,5 @@ struct UrunTipiKaydi
     QString KisaAD;    ///< short name: heads columns, names the picture folder
     double Sirano = 0; ///< place of its column
 };
+
+} // namespace kuyum

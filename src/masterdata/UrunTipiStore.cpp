@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static QString findSql(double TipID)
 {
     return u"Select * From UrunTipi Where TipID = "_s + sqlNumber(TipID);
@@ -61,3 +63,5 @@ void UrunTipiStore::remove(double TipID, LoadedRows &okunan) const
         m_oturum->calistir(u"DELETE From Uruntipi Where TipID = "_s + sqlNumber(TipID));
     });
 }
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// Finds, saves and removes product types. Everything throws DatabaseError.
@@ -26,3 +28,5 @@ public:
 private:
     Oturum *m_oturum;
 };
+
+} // namespace kuyum

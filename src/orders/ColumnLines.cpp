@@ -1,5 +1,7 @@
 #include "ColumnLines.h"
 
+namespace kuyum {
+
 void ColumnLines::put(int column, const QString &text)
 {
     if (text.isEmpty())
@@ -30,3 +32,5 @@ void ColumnLines::append(QString &line, int column, const QString &text)
 {
     line = line.leftJustified(column) + text;
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+namespace kuyum {
+
 /// Lines of fixed-pitch text on which texts are put at columns, from left to
 /// right. Nothing covers or touches what stands there already: what would goes
 /// into a line of its own, in its column.
@@ -24,3 +26,5 @@ private:
 
     QStringList m_lines{QString()};
 };
+
+} // namespace kuyum

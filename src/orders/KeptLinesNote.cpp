@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// The rows that hold such lines, by what stands in the way of saving them.
@@ -65,3 +67,5 @@ QString keptLinesNote(const Siparis &siparis, const HasModel &hasModel)
     add(rows.withoutModel, u"%1 modeli tanımlanmadan sipariş kaydedilemez."_s);
     return note;
 }
+
+} // namespace kuyum

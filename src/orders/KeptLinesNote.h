@@ -2,6 +2,8 @@
 
 #include "SiparisKontrol.h"
 
+namespace kuyum {
+
 struct KeptLine;
 struct Siparis;
 
@@ -11,3 +13,5 @@ QString namesOf(const QList<KeptLine> &lines);
 /// What becomes of an order's lines that its grid has no cell for: in a save,
 /// in a copy, on the slip, and when their row goes. Empty for none.
 QString keptLinesNote(const Siparis &siparis, const HasModel &hasModel);
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 
+namespace kuyum {
+
 namespace {
 
 /// A row under construction: what of it came from which line.
@@ -88,3 +90,5 @@ QList<SiparisSatiri> foldLines(const QList<OrderLine> &kayitlar, const QList<Uru
     }
     return result;
 }
+
+} // namespace kuyum

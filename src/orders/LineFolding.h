@@ -4,6 +4,8 @@
 
 #include <functional>
 
+namespace kuyum {
+
 /// One stored line, as the query of an order's lines reads it.
 struct OrderLine
 {
@@ -30,3 +32,5 @@ QList<SiparisSatiri> foldLines(const QList<OrderLine> &kayitlar, const QList<Uru
 
 /// Per column: whether its product type is one of these.
 QList<bool> yellowColumns(const QList<UrunTipi> &tipler, const QStringList &kisaAdlar);
+
+} // namespace kuyum

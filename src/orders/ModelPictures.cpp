@@ -2,6 +2,8 @@
 
 #include "TurkishText.h"
 
+namespace kuyum {
+
 static QString key(const PictureWish &wish)
 {
     QStringList parts{wish.kod.trimmed()};
@@ -34,3 +36,5 @@ QImage ModelPictures::resim(const PictureWish &wish) const
 {
     return m_images.value(m_paths.value(key(wish)));
 }
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 #include <QImage>
 #include <QSize>
 
+namespace kuyum {
+
 /// What a picture is wanted of: a model as one or more product types, or a mold.
 struct PictureWish
 {
@@ -49,3 +51,5 @@ private:
     QHash<QString, QString> m_paths; ///< by wish
     QHash<QString, QImage> m_images; ///< by path
 };
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr QStringView prefix = u"29";
@@ -42,3 +44,5 @@ OrderNumberEntry readOrderNumber(const QString &text)
         return {0, u"BU BİR SİPARİŞ NUMARASI DEĞİL:\n%1"_s.arg(entry)};
     return {leadingNumber(entry), {}};
 }
+
+} // namespace kuyum

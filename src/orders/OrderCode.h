@@ -3,6 +3,8 @@
 #include <optional>
 #include <QString>
 
+namespace kuyum {
+
 /// The bar code by which a printed slip names its order: an EAN-13 of "29", a
 /// prefix that no article bears, and the order number in 10 digits. Scanners
 /// that read product labels read it as they are set, and its check digit tells
@@ -23,3 +25,5 @@ OrderNumberEntry readOrderNumber(const QString &text);
 /// How many characters its box takes: all of a scanned code, so that no part
 /// of one is taken for a number.
 constexpr int orderNumberLength = 20;
+
+} // namespace kuyum

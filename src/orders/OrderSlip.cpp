@@ -3,6 +3,8 @@
 #include "PictureSlip.h"
 #include "SiparisFisi.h"
 
+namespace kuyum {
+
 std::optional<PrintDocument> orderSlip(Oturum &oturum, const Siparis &siparis,
                                        const SlipChoice &choice, const PictureProgress &progress)
 {
@@ -28,3 +30,5 @@ std::optional<PrintDocument> orderSlip(Oturum &oturum, const Siparis &siparis,
         return Yazdir_Resimli_15(source);
     return choice.adet == 7 ? Yazdir_Resimli_7(source) : Yazdir_Resimli_12(source);
 }
+
+} // namespace kuyum

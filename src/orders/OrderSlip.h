@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// How the user wants the slip.
@@ -19,3 +21,5 @@ struct SlipChoice
 /// when it was stopped while it read the pictures.
 std::optional<PrintDocument> orderSlip(Oturum &oturum, const Siparis &siparis,
                                        const SlipChoice &choice, const PictureProgress &progress);
+
+} // namespace kuyum

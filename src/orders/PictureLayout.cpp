@@ -7,6 +7,9 @@
 #include <cmath>
 
 using namespace Qt::StringLiterals;
+
+namespace kuyum {
+
 using namespace SlipMeasures;
 
 namespace {
@@ -154,3 +157,5 @@ QStringList cellLines(const PictureLayout &layout, const SiparisSatiri &row,
     columns.noteIndent = columns.model;
     return SlipLines::rowLines(row, columns);
 }
+
+} // namespace kuyum

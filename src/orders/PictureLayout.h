@@ -2,6 +2,8 @@
 
 #include "SlipPages.h"
 
+namespace kuyum {
+
 /// One layout of the picture slips: so many cells to a page, each with a
 /// model's picture and beside it the text of its row.
 struct PictureLayout
@@ -42,3 +44,5 @@ struct RowWeights
 /// there may be more lines than a cell holds.
 QStringList cellLines(const PictureLayout &layout, const SiparisSatiri &row,
                       const QList<UrunTipi> &tipler, const RowWeights &rowWeights);
+
+} // namespace kuyum

@@ -6,6 +6,9 @@
 #include "PictureLayout.h"
 
 using namespace Qt::StringLiterals;
+
+namespace kuyum {
+
 using namespace SlipMeasures;
 
 namespace {
@@ -175,3 +178,5 @@ QSize picturePixels(int adet)
                   layout.pictureHeight().pixels(picturesPerInch))
         .toSize();
 }
+
+} // namespace kuyum

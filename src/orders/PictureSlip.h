@@ -5,6 +5,8 @@
 
 #include <QSize>
 
+namespace kuyum {
+
 /// What a picture slip is written from.
 struct PictureSlipSource
 {
@@ -24,3 +26,5 @@ PrintDocument Yazdir_Resimli_15(const PictureSlipSource &source);
 
 /// How many dots of a picture the paper shows on the slip of so many to a page.
 QSize picturePixels(int adet);
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <numeric>
 
+namespace kuyum {
+
 static bool isSet(const QDateTime &date)
 {
     return date.isValid() && date.date() != noDate();
@@ -72,3 +74,5 @@ QList<KeptLine> Siparis::allKeptLines() const
         all += row.keptLines;
     return all;
 }
+
+} // namespace kuyum

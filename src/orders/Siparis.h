@@ -5,6 +5,8 @@
 #include <QMap>
 #include <QString>
 
+namespace kuyum {
+
 /// One product type: a quantity column of the order grid.
 struct UrunTipi
 {
@@ -90,3 +92,5 @@ struct Siparis
     QList<KeptLine> allKeptLines() const;
     friend bool operator==(const Siparis &, const Siparis &) = default;
 };
+
+} // namespace kuyum

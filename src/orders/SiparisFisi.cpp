@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr Twips lineAdvance = 300_tw;
@@ -90,3 +92,5 @@ PrintDocument siparisFisi(const Siparis &siparis, MusteriKimligi kimlik, double 
 {
     return PlainSlip(siparis, plainHeader(siparis, kimlik, toplamGram)).write();
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 using Field = OrderFault::Field;
@@ -67,3 +69,5 @@ std::optional<OrderFault> checkOrder(const Siparis &siparis, const HasModel &has
         return headerFault(u"SİPARİŞ DETAY BİLGİLERİ GİRİLMEMİŞ...!"_s, Field::Grid);
     return std::nullopt;
 }
+
+} // namespace kuyum

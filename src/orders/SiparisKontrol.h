@@ -4,6 +4,8 @@
 #include <optional>
 #include <QString>
 
+namespace kuyum {
+
 struct Siparis;
 
 /// Why an order cannot be saved, and where the user mends it.
@@ -25,3 +27,5 @@ using HasModel = std::function<bool(const QString &model)>;
 /// The first fault that keeps the order from being saved, in the order in
 /// which they are told; nothing for an order that can be saved.
 std::optional<OrderFault> checkOrder(const Siparis &siparis, const HasModel &hasModel);
+
+} // namespace kuyum

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 enum class RowNumbers { Written, Left };
@@ -337,3 +339,5 @@ void SiparisStore::replaceLines(const Siparis &siparis, const LoadedRows &okunan
     m_oturum->calistir(deleteLinesSql(siparis.Sipnum, kept));
     addLines(*m_oturum, siparis, RowNumbers::Written);
 }
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 
 #include <optional>
 
+namespace kuyum {
+
 struct Oturum;
 struct OrderLine;
 
@@ -66,3 +68,5 @@ private:
 
     Oturum *m_oturum;
 };
+
+} // namespace kuyum

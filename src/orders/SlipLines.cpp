@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Quantities stand flush right in columns that follow the colour's.
@@ -78,3 +80,5 @@ QStringList SlipLines::rowLines(const SiparisSatiri &row, const SlipColumns &col
     }
     return lines.lines();
 }
+
+} // namespace kuyum

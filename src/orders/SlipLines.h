@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+namespace kuyum {
+
 /// The columns of a slip's lines, in characters of its fixed-pitch face from
 /// the list's left edge.
 struct SlipColumns
@@ -45,3 +47,5 @@ QList<int> ruleColumns(qsizetype typeCount, const SlipColumns &columns = {});
 QStringList rowLines(const SiparisSatiri &row, const SlipColumns &columns = {});
 
 } // namespace SlipLines
+
+} // namespace kuyum

@@ -7,6 +7,9 @@
 #include "OrderCode.h"
 
 using namespace Qt::StringLiterals;
+
+namespace kuyum {
+
 using namespace SlipMeasures;
 
 namespace {
@@ -209,3 +212,5 @@ void SlipPages::closePage()
     useFont(footerPoints, false);
     YaziYaz(footerAt.x, footerAt.y, u"Sayfa "_s + QString::number(m_document.pages().size()));
 }
+
+} // namespace kuyum

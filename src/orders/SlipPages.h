@@ -3,6 +3,8 @@
 #include "PrintDocument.h"
 #include "SlipLines.h"
 
+namespace kuyum {
+
 /// By which of its three identities the customer is printed.
 enum class MusteriKimligi { Kisa, Ad, Kod };
 
@@ -70,3 +72,5 @@ private:
     QStringList m_note; ///< the header's lines of the order note
     QString m_noteOverrun;
 };
+
+} // namespace kuyum

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Of models whose codes differ only in letter case, the one written exactly
@@ -60,3 +62,5 @@ OrderGrams orderGrams(Oturum &oturum, const Siparis &siparis)
     };
     return orderGrams(siparis, YogunlukBul(*oturum.Veritabani, siparis.Ayar), gramBul);
 }
+
+} // namespace kuyum

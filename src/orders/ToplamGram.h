@@ -5,6 +5,8 @@
 #include <functional>
 #include <optional>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// Grams of one piece of a model under a product type (its short name);
@@ -24,3 +26,5 @@ OrderGrams orderGrams(const Siparis &siparis, double yogunluk, const GramBul &gr
 
 /// The same with density and grams from the database; 0 for an unknown karat.
 OrderGrams orderGrams(Oturum &oturum, const Siparis &siparis);
+
+} // namespace kuyum

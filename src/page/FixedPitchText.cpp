@@ -2,6 +2,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 QString takeLine(QString &rest, qsizetype width, qsizetype lineWidth)
 {
     rest = rest.trimmed();
@@ -42,3 +44,5 @@ QString onOneLine(QString text)
     }
     return text;
 }
+
+} // namespace kuyum

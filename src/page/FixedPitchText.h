@@ -3,6 +3,8 @@
 #include <QString>
 #include <QStringList>
 
+namespace kuyum {
+
 /// Text set in a fixed-pitch face, counted in characters.
 
 /// Takes from the front of `rest` what fits into `width` characters, broken
@@ -16,3 +18,5 @@ QStringList wrappedLines(const QString &text, qsizetype firstWidth, qsizetype wi
 
 /// One line: line breaks, tabs and other control characters become blanks.
 QString onOneLine(QString text);
+
+} // namespace kuyum

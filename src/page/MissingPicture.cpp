@@ -2,6 +2,8 @@
 
 #include "FixedPitchText.h"
 
+namespace kuyum {
+
 namespace {
 
 constexpr Twips hairline = 5_tw;
@@ -38,3 +40,5 @@ void missingPicture(PrintDocument &document, const PictureRoom &box, const QStri
         y += advance;
     }
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include "PrintDocument.h"
 
+namespace kuyum {
+
 /// A picture's box on paper.
 struct PictureRoom
 {
@@ -14,3 +16,5 @@ struct PictureRoom
 /// middle the code, in the document's fixed-pitch font. A code that is too
 /// long for the box ends in a mark that it goes on.
 void missingPicture(PrintDocument &document, const PictureRoom &box, const QString &code);
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+namespace kuyum {
+
 namespace {
 
 /// How many of the device's dots a module is wide.
@@ -43,3 +45,5 @@ void paintBars(QPainter &painter, const PageBars &bars)
     }
     painter.restore();
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 
 class QPainter;
 
+namespace kuyum {
+
 /// A bar code on a page: its modules from left to right, "X" dark and "O"
 /// light. A module is as many whole dots of the device as come nearest to its
 /// width, for a reader measures the bars against each other.
@@ -27,3 +29,5 @@ constexpr int usualHead = 203;
 /// scale. Their left edge comes to lie on the nearest dot; light modules are
 /// painted white.
 void paintBars(QPainter &painter, const PageBars &bars);
+
+} // namespace kuyum

@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// More than the best cameras give; a larger one would take seconds and
@@ -281,3 +283,5 @@ void savePicture(const QImage &image, const QString &path)
     const QByteArray bytes = jpegBytes(image);
     WholeFile(u"Resim"_s, path).write(bytes);
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 #include <QSize>
 #include <QStringList>
 
+namespace kuyum {
+
 /// The JPEG files of models and molds, named after their codes. Names are
 /// found without regard to case on every system. A code that is no plain file
 /// name (it holds a path separator, say) has no picture: nothing outside the
@@ -56,3 +58,5 @@ QByteArray jpegBytes(const QImage &image);
 /// becomes white. The old file stays until the new one is wholly on disk.
 /// Throws std::runtime_error with a Turkish text.
 void savePicture(const QImage &image, const QString &path);
+
+} // namespace kuyum

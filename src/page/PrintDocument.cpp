@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int twipsPerInch = 1440;
@@ -236,3 +238,5 @@ void paintPage(QPainter &painter, const PrintPage &page, double dotsPerInch, Pag
         std::visit(pagePainter, item);
     painter.restore();
 }
+
+} // namespace kuyum

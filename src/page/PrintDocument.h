@@ -11,6 +11,8 @@
 
 class QPainter;
 
+namespace kuyum {
+
 /// A point on the page; a text's point is its top left corner.
 struct PagePoint
 {
@@ -148,3 +150,5 @@ void writePdf(const PrintDocument &document, const QString &path);
 QImage pageDots(const PrintDocument &document, const PrintPage &page, int dotsPerInch);
 /// Writes the first page's dots to a PNG file; throws as writePdf() does.
 void writePng(const PrintDocument &document, const QString &path, int dotsPerInch);
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// In memory: the PDF writer does not tell when its device fails.
@@ -76,3 +78,5 @@ void writePng(const PrintDocument &document, const QString &path, int dotsPerInc
         file.refuse(u"Resim bu büyüklükte oluşturulamadı."_s);
     file.write(bytes);
 }
+
+} // namespace kuyum

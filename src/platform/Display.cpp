@@ -2,6 +2,8 @@
 
 #include <QtGlobal>
 
+namespace kuyum {
+
 bool hasDisplay()
 {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
@@ -11,3 +13,5 @@ bool hasDisplay()
     return true;
 #endif
 }
+
+} // namespace kuyum

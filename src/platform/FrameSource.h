@@ -6,6 +6,8 @@
 #include <QObject>
 #include <QStringList>
 
+namespace kuyum {
+
 /// Where the webcam screen gets its frames from: a camera, or a picture file
 /// where there is none.
 class FrameSource : public QObject
@@ -30,3 +32,5 @@ Q_SIGNALS:
 
 /// Opens the device of that index, counted from 0; null where there is none.
 using FrameSourceOpener = std::function<std::unique_ptr<FrameSource>(int index)>;
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int millisecondsPerFrame = 50;
@@ -47,3 +49,5 @@ void PictureFrames::give()
     }
     Q_EMIT frameCame(m_format == 0 ? m_picture : fitPicture(m_picture, m_picture.size() / 2).image);
 }
+
+} // namespace kuyum

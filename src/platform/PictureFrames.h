@@ -4,6 +4,8 @@
 
 #include <QTimer>
 
+namespace kuyum {
+
 /// A camera that shows a picture file, in its own size or in half of it. While
 /// the file is away the camera is unplugged.
 class PictureFrames : public FrameSource
@@ -26,3 +28,5 @@ private:
     int m_format = 0;
     QTimer m_timer;
 };
+
+} // namespace kuyum

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QString chosenKey()
@@ -146,3 +148,5 @@ void prepare(QPrinter &printer, const PrintDocument &document)
     printer.setPageOrientation(wide ? QPageLayout::Landscape : QPageLayout::Portrait);
     printer.setPageMargins(QMarginsF(), QPageLayout::Point);
 }
+
+} // namespace kuyum

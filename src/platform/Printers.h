@@ -8,6 +8,8 @@
 class QPrinter;
 class QSettings;
 
+namespace kuyum {
+
 /// The installed printers, which of them is the current one, and what the user
 /// set for each. The settings outlive the program.
 class Printers
@@ -53,3 +55,5 @@ int ownResolution(const QList<int> &offered);
 
 /// Sets a printer up for a document: its paper, no margins, its title.
 void prepare(QPrinter &printer, const PrintDocument &document);
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 QString SingleInstance::defaultLockPath()
 {
     // A folder of this user alone, where writing costs nothing and which a
@@ -26,3 +28,5 @@ SingleInstance::SingleInstance(const QString &lockPath) : m_lock(lockPath)
     // A folder that cannot be written is no reason to refuse the work.
     m_otherCopyRuns = !takeProcessLock(m_lock) && m_lock.error() == QLockFile::LockFailedError;
 }
+
+} // namespace kuyum

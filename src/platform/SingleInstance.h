@@ -3,6 +3,8 @@
 #include <QLockFile>
 #include <QString>
 
+namespace kuyum {
+
 /// Lets one copy of the program run per user. A copy that crashed stands in
 /// nobody's way.
 class SingleInstance
@@ -18,3 +20,5 @@ private:
     QLockFile m_lock;
     bool m_otherCopyRuns;
 };
+
+} // namespace kuyum

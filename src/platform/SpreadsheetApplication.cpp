@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 #ifdef Q_OS_WIN
 
 bool InstalledSpreadsheet::isInstalled() const
@@ -50,3 +52,5 @@ bool InstalledSpreadsheet::open(const QString &path)
 }
 
 #endif
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace kuyum {
+
 /// The spreadsheet program that the user has.
 class SpreadsheetApplication
 {
@@ -20,3 +22,5 @@ public:
     bool isInstalled() const override;
     bool open(const QString &path) override;
 };
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// A spreadsheet takes a text that begins like this for a formula and runs it,
 /// quotes or not. An apostrophe before it makes it a text again; a plain number
 /// runs nothing.
@@ -57,3 +59,5 @@ void writeCsv(const QList<ReportTable> &tables, const QString &path)
     }
     file.write(bytes);
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+namespace kuyum {
+
 namespace {
 
 constexpr int gap = 2;
@@ -102,3 +104,5 @@ QList<PageSlice> placedColumns(const ReportPart &part, int pageWidth)
     }
     return slices.isEmpty() ? QList<PageSlice>{PageSlice{}} : slices;
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include "ReportPages.h"
 
+namespace kuyum {
+
 /// A column of a table in its place on a page.
 struct PlacedColumn
 {
@@ -25,3 +27,5 @@ bool usesOwnColumns(const ReportPart &part, int pageWidth);
 /// Whether the row says but one thing, in its first column; such a text may
 /// run over the others.
 bool isLoneText(const ReportRow &row);
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr double fontPoints = 9;
@@ -158,3 +160,5 @@ PrintDocument reportPages(const QString &title, const QStringList &header,
         pages.add(part);
     return pages.document();
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include "PrintDocument.h"
 #include "ReportTable.h"
 
+namespace kuyum {
+
 /// Where a shown column stands on paper, in characters from the left edge.
 /// Figures end where it ends.
 struct ReportPageColumn
@@ -28,3 +30,5 @@ struct ReportPart
 /// into lines: nothing is cut off.
 PrintDocument reportPages(const QString &title, const QStringList &header,
                           const QList<ReportPart> &parts);
+
+} // namespace kuyum

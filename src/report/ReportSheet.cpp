@@ -19,6 +19,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int progressStep = 500;
@@ -415,3 +417,5 @@ bool writeSheet(const ReportSheet &sheet, const QString &path, const SheetProgre
 {
     return writeSheets({sheet}, path, progress);
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <functional>
 
+namespace kuyum {
+
 /// How a report's cells stand in a spreadsheet.
 enum class SheetForm {
     Metin,     ///< each cell as a blank and its text, as on the screen
@@ -35,3 +37,5 @@ bool writeSheet(const ReportSheet &sheet, const QString &path, const SheetProgre
 /// The same for several in one file, a sheet each.
 bool writeSheets(const QList<ReportSheet> &sheets, const QString &path,
                  const SheetProgress &progress);
+
+} // namespace kuyum

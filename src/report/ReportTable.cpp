@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <QDate>
 
+namespace kuyum {
+
 QString ReportTable::cellText(qsizetype row, qsizetype column) const
 {
     const QVariant &value = rows[row].values[column];
@@ -34,3 +36,5 @@ bool ReportTable::hasLines() const
     return std::ranges::any_of(
         rows, [](const ReportRow &row) { return row.kind == ReportRowKind::Line; });
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QVariant>
 
+namespace kuyum {
+
 /// What a report's column holds, which settles how it stands and sorts.
 enum class ReportColumnKind {
     Text,
@@ -51,3 +53,5 @@ struct ReportTable
     /// Whether there is anything but captions and totals.
     bool hasLines() const;
 };
+
+} // namespace kuyum

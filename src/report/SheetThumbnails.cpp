@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int sharpness = 2;     ///< stored pixels for one of the box
@@ -82,3 +84,5 @@ SheetThumbnails::Thumbnail SheetThumbnails::of(qsizetype row, qsizetype column) 
 {
     return m_thumbnails.value(key(m_sheet.table.rows[row], column));
 }
+
+} // namespace kuyum

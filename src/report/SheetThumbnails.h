@@ -5,6 +5,8 @@
 #include <QHash>
 #include <QSize>
 
+namespace kuyum {
+
 /// The pictures of a report's models, small and in files of their own, each
 /// made once however many rows show it.
 class SheetThumbnails
@@ -38,3 +40,5 @@ private:
     QHash<QString, Thumbnail> m_thumbnails; ///< by folded model code and type
     bool m_any = false;
 };
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 LineShares::LineShares(Oturum &oturum, const SiparisBasligi &siparis) : m_siparis(siparis)
 {
     Recordset Kayit = oturum.sorgula(u"Select TipID, KisaAD From UrunTipi"_s);
@@ -38,3 +40,5 @@ QString figureTitle(const ReportTable &table, qsizetype row, qsizetype column)
     return table.cellText(row, 0) + u" - "_s + table.columns[column].heading + u": "_s +
            table.cellText(row, column);
 }
+
+} // namespace kuyum

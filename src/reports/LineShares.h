@@ -5,6 +5,8 @@
 
 #include <QHash>
 
+namespace kuyum {
+
 class Recordset;
 struct Oturum;
 
@@ -30,3 +32,5 @@ double asDecimal(double value);
 
 /// "K-1 - ADET: 12": which figure of the table a window shows the lines of.
 QString figureTitle(const ReportTable &table, qsizetype row, qsizetype column);
+
+} // namespace kuyum

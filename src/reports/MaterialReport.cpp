@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// The texts that tell a row from another.
@@ -119,3 +121,5 @@ QList<int> MaterialReport::sortedItems(const QList<QList<Figure>> &figures) cons
     });
     return items;
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include "OrderReport.h"
 
+namespace kuyum {
+
 /// What the orders of a period need of the models' materials: the pieces
 /// ordered times the pieces in each, matched on model and product type.
 class MaterialReport : public OrderReport
@@ -72,3 +74,5 @@ private:
     std::optional<ColumnMeaning> meaning(qsizetype column) const override;
     int decimals(const ColumnMeaning &meaning) const override;
 };
+
+} // namespace kuyum

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int firstFigure = 1; ///< column
@@ -176,3 +178,5 @@ void ModelReport::layOut(const QList<QList<Figure>> &figures)
     }
     addTotals();
 }
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 #include <QSet>
 #include <vector>
 
+namespace kuyum {
+
 /// The models ordered in a period, the most wanted first. An order's model
 /// counts with all its lines as soon as one of them passes the filters and is
 /// defined with its product type.
@@ -31,3 +33,5 @@ private:
     QSet<qint64> m_customers;
     QSet<quint64> m_defined; ///< the modelAndType() that pass the filters
 };
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int firstFigure = 2; ///< column
@@ -44,3 +46,5 @@ void MoldReport::layOut(const QList<QList<Figure>> &figures)
     }
     addTotals();
 }
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr qsizetype mostLines = 200'000;
@@ -89,3 +91,5 @@ ReportTable OrderLinesBehind::table(const QString &title, const QString &picture
 {
     return orderSharesTable(title, m_shares, picture);
 }
+
+} // namespace kuyum

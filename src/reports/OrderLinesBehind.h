@@ -3,6 +3,8 @@
 #include "OrderReport.h"
 #include "OrderShares.h"
 
+namespace kuyum {
+
 /// Gathers the order lines behind a figure of an order report.
 ///
 /// A report rounds each figure, and totals add the rounded ones. Each line gets
@@ -39,3 +41,5 @@ private:
     qsizetype m_count = 0;
     int m_walked = -1; ///< the line that the last share is of
 };
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 void OrderReport::Figure::add(std::optional<double> value)
 {
     present = true;
@@ -178,3 +180,5 @@ void OrderReport::addTotals()
     }
     m_table.rows.append({cells, ReportRowKind::Total});
 }
+
+} // namespace kuyum

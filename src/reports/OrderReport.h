@@ -4,6 +4,8 @@
 #include "ReportRequest.h"
 #include "ReportTable.h"
 
+namespace kuyum {
+
 struct Oturum;
 
 /// A karat or a product type that a report's figures are split by.
@@ -122,3 +124,5 @@ protected:
     ReportTable m_table;
     QList<int> m_items; ///< of the table's lines, in their order
 };
+
+} // namespace kuyum

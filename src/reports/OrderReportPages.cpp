@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 PrintDocument stonePages(const SiparisBasligi &siparis, const ReportTable &taslar)
 {
     constexpr qsizetype currencyColumn = 3;
@@ -39,3 +41,5 @@ QString sheetTitle(const SiparisBasligi &siparis, const ReportTable &table)
     return table.title + u"   Firma: "_s + siparis.FirAdi + u" No: "_s +
            QString::number(siparis.Sipnum) + u"  Tarih: "_s + formatDate(siparis.SipTrh);
 }
+
+} // namespace kuyum

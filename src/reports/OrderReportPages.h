@@ -3,6 +3,8 @@
 #include "PrintDocument.h"
 #include "ReportTable.h"
 
+namespace kuyum {
+
 struct SiparisBasligi;
 
 /// The stones of an order on paper, with the table's rows as they stand.
@@ -14,3 +16,5 @@ PrintDocument foundryPages(const SiparisBasligi &siparis, const ReportTable &mod
 
 /// A table's title with the order that it is of.
 QString sheetTitle(const SiparisBasligi &siparis, const ReportTable &table);
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 ReportTable orderSharesTable(const QString &title, const QList<OrderShare> &shares,
                              const QString &picture)
 {
@@ -33,3 +35,5 @@ ReportTable orderSharesTable(const QString &title, const QList<OrderShare> &shar
         ReportRow{{u"TOPLAM"_s, {}, {}, {}, {}, {}, adet, {}, miktar}, ReportRowKind::Total});
     return table;
 }
+
+} // namespace kuyum

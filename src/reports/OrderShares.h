@@ -4,6 +4,8 @@
 
 #include <QDate>
 
+namespace kuyum {
+
 /// What one order line adds to a figure of a report.
 struct OrderShare
 {
@@ -22,3 +24,5 @@ struct OrderShare
 /// The picture is the figure's own.
 ReportTable orderSharesTable(const QString &title, const QList<OrderShare> &shares,
                              const QString &picture);
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QString fold(std::string_view utf8)
@@ -92,3 +94,5 @@ bool PeriodLines::goesOn(const PeriodLine &line, const ReportProgress &progress)
     constexpr int between = 4096; // lines: a few milliseconds
     return line.place % between != 0 || progress(m_ordersBegun, m_orderCount);
 }
+
+} // namespace kuyum

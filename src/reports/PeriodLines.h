@@ -8,6 +8,8 @@
 #include <string_view>
 #include <unordered_map>
 
+namespace kuyum {
+
 class Database;
 class RowReader;
 
@@ -82,3 +84,5 @@ private:
     int m_ordersBegun = 0;
     int m_orderCount = 0;
 };
+
+} // namespace kuyum

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Past SonSQL, which keeps the text of the report.
@@ -57,3 +59,5 @@ QStringList modelPrefixes(const Oturum &oturum)
     std::ranges::sort(sorted, TextLess());
     return sorted;
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QList>
 #include <QStringList>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// What the order reports can be filtered by.
@@ -21,3 +23,5 @@ QList<FilterChoice> productTypeChoices(const Oturum &oturum);
 /// What the codes of the models begin with, up to the first sign that is no
 /// letter: their families, in alphabetical order.
 QStringList modelPrefixes(const Oturum &oturum);
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include "Oturum.h"
 #include "PictureFiles.h"
 
+namespace kuyum {
+
 QString reportPicture(Oturum &oturum, const QString &model, const QString &KisaAD)
 {
     return KisaAD.isEmpty() ? OrderLookups(oturum).picturePath(model)
@@ -16,3 +18,5 @@ PictureFinder reportPictures(Oturum &oturum)
         return reportPicture(oturum, model, KisaAD);
     };
 }
+
+} // namespace kuyum

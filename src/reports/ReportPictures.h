@@ -2,6 +2,8 @@
 
 #include "ReportSheet.h"
 
+namespace kuyum {
+
 struct Oturum;
 
 /// The picture file of a model as a product type; empty where there is none. A
@@ -11,3 +13,5 @@ QString reportPicture(Oturum &oturum, const QString &model, const QString &KisaA
 
 /// Finds the picture files of a company's models; the session must outlive it.
 PictureFinder reportPictures(Oturum &oturum);
+
+} // namespace kuyum

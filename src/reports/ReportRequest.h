@@ -5,6 +5,8 @@
 #include <QDate>
 #include <QString>
 
+namespace kuyum {
+
 /// What the figures of the model report are split by.
 enum class ReportSplit { Ayar, UrunTipi };
 
@@ -28,3 +30,5 @@ struct ModelReportRequest
 
 /// Told how far a report is; false stops it.
 using ReportProgress = std::function<bool(int done, int all)>;
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QString inPeriod(const ReportPeriod &period)
@@ -105,3 +107,5 @@ QString modelReportSql(const ModelReportRequest &request, const QList<SplitColum
            sqlDate(request.period.bas) + u" and s1.siptrh <= "_s + sqlDate(request.period.bit) +
            u"   group by s1.sipnum,s2.sipmodel) group by sipmodel) order by toplam desc"_s;
 }
+
+} // namespace kuyum

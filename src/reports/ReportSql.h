@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+namespace kuyum {
+
 /// The SQL texts of the order reports, in the product's dialect.
 
 /// The karats that occur in the period. The model report asks for them in no order.
@@ -28,3 +30,5 @@ struct SplitColumn
 /// the largest total first. A product type whose name is no field name makes
 /// the text one that the engine refuses.
 QString modelReportSql(const ModelReportRequest &request, const QList<SplitColumn> &columns);
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 std::optional<SiparisBasligi> siparisBasligi(Oturum &oturum, qint32 Sipnum)
 {
     Recordset Kayit = oturum.sorgula(u"Select * From SiparisB, Firma "
@@ -29,3 +31,5 @@ QStringList baslikSatirlari(const SiparisBasligi &siparis)
     return {u"SİPARİŞ TARİH/NO/AYAR : "_s + order.join(u" - "_s),
             u"MÜŞTERİ               : "_s + siparis.FirAdi};
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include <QDate>
 #include <QStringList>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// What the reports on one order say of it.
@@ -23,3 +25,5 @@ QString bulunamadi(qint32 Sipnum);
 
 /// The lines above every printed page.
 QStringList baslikSatirlari(const SiparisBasligi &siparis);
+
+} // namespace kuyum

@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QDateTime noMoment()
@@ -230,3 +232,5 @@ bool SiparisTakip::setState(qint32 Dotosayi, const ProductionState &state) const
     line.update();
     return true;
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 #include <functional>
 #include <optional>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// An order line on the order control tab.
@@ -88,3 +90,5 @@ private:
 
     Oturum *m_oturum;
 };
+
+} // namespace kuyum

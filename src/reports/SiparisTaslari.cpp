@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// The unit that pure gold is counted in among the currencies.
@@ -156,3 +158,5 @@ QString eksikKurNotu(QDate tarih, const QStringList &kurlar)
     return u"%1 tarihinde %2 kuru yok: bu kurla çevrilen tutarlar 0 sayıldı, KAR doğru değil."_s
         .arg(formatDate(tarih), named.join(u", "_s));
 }
+
+} // namespace kuyum

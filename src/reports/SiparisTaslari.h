@@ -3,6 +3,8 @@
 #include "ReportTable.h"
 #include "SiparisBasligi.h"
 
+namespace kuyum {
+
 /// The stones that an order needs, with their weight, cost and margin.
 class SiparisTaslari
 {
@@ -37,3 +39,5 @@ private:
 QStringList raporDovizleri(Oturum &oturum);
 /// What the user is told of rates that are missing.
 QString eksikKurNotu(QDate tarih, const QStringList &kurlar);
+
+} // namespace kuyum

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QString gramPicture()
@@ -217,3 +219,5 @@ ReportTable SiparisYariMamul::kalipSatirlari(qsizetype row, qsizetype column) co
     return orderSharesTable(figureTitle(m_kaliplar, row, column), shares,
                             m_kaliplar.columns[column].picture);
 }
+
+} // namespace kuyum

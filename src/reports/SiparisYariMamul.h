@@ -3,6 +3,8 @@
 #include "OrderShares.h"
 #include "SiparisBasligi.h"
 
+namespace kuyum {
+
 struct Oturum;
 
 /// What an order needs of the foundry: its models with their gold, and the
@@ -45,3 +47,5 @@ private:
     ReportTable m_modeller;
     ReportTable m_kaliplar;
 };
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 const QString gramPicture = u"##0.00"_s;
@@ -76,3 +78,5 @@ void StoneReport::layOut(const QList<QList<Figure>> &figures)
     }
     addTotals();
 }
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 #include <QList>
 #include <QString>
 
+namespace kuyum {
+
 /// Which order lines production looks at.
 struct UretimFiltre
 {
@@ -56,3 +58,5 @@ struct UretimMusterisi
     QString FirAdi;
     QString SAck;
 };
+
+} // namespace kuyum

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QString text(UretimReddi::Neden neden)
@@ -112,3 +114,5 @@ std::optional<PrintDocument> uretimRaporu(Oturum &oturum, const UretimListesi &l
                              },
                              [&](const QString &kod) { return moldPictures.resim({kod}); }});
 }
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 #include <optional>
 #include <stdexcept>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// Which of the two production sheets.
@@ -62,3 +64,5 @@ UretimListesi uretimListesi(Oturum &oturum, const QList<SecilenSiparis> &secim,
 /// stopped while it read them.
 std::optional<PrintDocument> uretimRaporu(Oturum &oturum, const UretimListesi &liste,
                                           UretimYazdirma yazdirma, const PictureProgress &progress);
+
+} // namespace kuyum

@@ -7,6 +7,9 @@
 #include <numeric>
 
 using namespace Qt::StringLiterals;
+
+namespace kuyum {
+
 using namespace UretimOlculeri;
 
 namespace {
@@ -195,3 +198,5 @@ QList<SayfaSeridi> etiketliSeritler(Twips x, const QString &label, QStringList e
         entry = onOneLine(entry).trimmed().replace(u' ', noBreak);
     return etiketliSeritler(x, label, entries.join(u", "_s));
 }
+
+} // namespace kuyum

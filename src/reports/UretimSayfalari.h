@@ -5,6 +5,8 @@
 
 #include <functional>
 
+namespace kuyum {
+
 /// What is measured alike on both production sheets.
 namespace UretimOlculeri {
 
@@ -72,3 +74,5 @@ SayfaSeridi metinSeridi(Twips x, const QString &text);
 QList<SayfaSeridi> etiketliSeritler(Twips x, const QString &label, const QString &text);
 /// The same with entries that are not divided at their blanks.
 QList<SayfaSeridi> etiketliSeritler(Twips x, const QString &label, QStringList entries);
+
+} // namespace kuyum

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QString countPicture()
@@ -251,3 +253,5 @@ ReportTable malzemeTable(const QString &heading, const QList<UretimMalzemesi> &m
         table.rows.append(ReportRow{{malzeme.kod, malzeme.adet}});
     return table;
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 #include <QSet>
 #include <QStringList>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// What production reads of orders and models. Everything throws DatabaseError.
@@ -50,3 +52,5 @@ private:
 QString malzemeAdedi(double adet);
 /// Molds or stones for a grid; the heading is that of their codes.
 ReportTable malzemeTable(const QString &heading, const QList<UretimMalzemesi> &malzemeler);
+
+} // namespace kuyum

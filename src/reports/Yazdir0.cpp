@@ -9,6 +9,9 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
+
+namespace kuyum {
+
 using namespace UretimOlculeri;
 
 namespace {
@@ -237,3 +240,5 @@ QSize moldDots()
 {
     return dots(moldWidth, moldHeight);
 }
+
+} // namespace kuyum

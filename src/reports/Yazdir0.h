@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QSize>
 
+namespace kuyum {
+
 /// The pictures of a sheet's rows and of molds by their codes; null where there
 /// is none that can be shown.
 struct UretimResimleri
@@ -22,3 +24,5 @@ PrintDocument Yazdir0_2(const UretimListesi &liste);
 /// How many dots of a model's and of a mold's picture the paper shows.
 QSize modelDots();
 QSize moldDots();
+
+} // namespace kuyum

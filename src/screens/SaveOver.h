@@ -3,6 +3,8 @@
 #include "LoadedRows.h"
 #include "Messages.h"
 
+namespace kuyum {
+
 /// What became of a save or a removal.
 enum class SaveEnd {
     Done,
@@ -31,3 +33,5 @@ SaveEnd saveOver(Messages &messages, QWidget *parent, LoadedRows &loaded, Save &
         }
     }
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include "LookupRequest.h"
 
+namespace kuyum {
+
 class DocumentViewer;
 class Messages;
 struct Oturum;
@@ -14,3 +16,5 @@ struct ScreenContext
     LookupOpener openList;
     DocumentViewer &viewer;
 };
+
+} // namespace kuyum

@@ -18,6 +18,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 TanimEkrani::TanimEkrani(const ScreenContext &context, QWidget *parent)
     : QDialog(parent), m_context(context), m_saved(new SavedLine(this))
 {
@@ -280,3 +282,5 @@ void TanimEkrani::warn(const QString &text)
 {
     m_context.messages.say(this, text, MessageIcon::Exclamation);
 }
+
+} // namespace kuyum

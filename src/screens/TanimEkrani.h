@@ -11,6 +11,9 @@
 class QLabel;
 class QLineEdit;
 class QPushButton;
+
+namespace kuyum {
+
 class SavedLine;
 
 /// The base of the definition screens, which edit one row, found by its key.
@@ -157,3 +160,5 @@ private:
     QHash<const QLineEdit *, ShownNumber> m_shown;
     SavedLine *m_saved;
 };
+
+} // namespace kuyum

@@ -1,1 +1,5 @@
 #include "LookupRequest.h"
+
+namespace kuyum {
+
+} // namespace kuyum

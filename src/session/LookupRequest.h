@@ -7,6 +7,8 @@
 
 class QWidget;
 
+namespace kuyum {
+
 /// What a screen asks of the lookup list: which list, from where on.
 struct LookupRequest
 {
@@ -28,3 +30,5 @@ struct LookupAnswer
 
 /// Opens the lookup list modally; handed to the screens by the program.
 using LookupOpener = std::function<LookupAnswer(QWidget *parent, const LookupRequest &request)>;
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 QList<MenuOgesi> parseMenuFile(const QByteArray &content)
 {
     static const QRegularExpression lineEnd(u"\r\n|\r|\n"_s);
@@ -76,3 +78,5 @@ QList<MenuOgesi> MenuStore::itemsOfUser()
                                   sqlNumber(m_oturum.KullaniciNo);
     return itemsOf(m_oturum.sorgula(sql));
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <QList>
 
+namespace kuyum {
+
 /// A menu item; its number is also that of its button and of its screen.
 struct MenuOgesi
 {
@@ -38,3 +40,5 @@ private:
 /// A line without a blank says nothing. The text is UTF-8 or, where it is not
 /// valid as such, Windows-1254.
 QList<MenuOgesi> parseMenuFile(const QByteArray &content);
+
+} // namespace kuyum

@@ -1,1 +1,5 @@
 #include "Oturum.h"
+
+namespace kuyum {
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 #include <QDate>
 #include <QString>
 
+namespace kuyum {
+
 /// What the whole run knows. Made once, when the program starts, and handed on
 /// by reference.
 struct Oturum
@@ -37,3 +39,5 @@ struct Oturum
         Veritabani->execute(sql);
     }
 };
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// The entry of the folder that has this name, in whichever case; the name
@@ -94,3 +96,5 @@ QString RegistryPaths::defaultRegistryFile()
            "/database/sirket.mdb"_L1;
 #endif
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QDir>
 #include <QString>
 
+namespace kuyum {
+
 /// Where the Windows paths of the registry lie on this system. The registry's
 /// own folder stands for c:\database and that folder's parent for c:\, wherever
 /// the registry was put; names count without regard to case on every system.
@@ -26,3 +28,5 @@ public:
 private:
     QDir m_folder;
 };
+
+} // namespace kuyum

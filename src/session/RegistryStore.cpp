@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static Sirket companyOf(const Recordset &row)
 {
     return {qint32(row.integer(u"Srkkod")), row.text(u"Srkadi"), row.text(u"DataYolu"),
@@ -45,3 +47,5 @@ void RegistryStore::savePaths(const Sirket &sirket)
     row.set(u"Transferyolu", sirket.Transferyolu);
     row.update();
 }
+
+} // namespace kuyum

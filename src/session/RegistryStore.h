@@ -4,6 +4,8 @@
 #include <QList>
 #include <QString>
 
+namespace kuyum {
+
 class Database;
 
 /// A company as the registry has it, paths in their Windows spelling.
@@ -34,3 +36,5 @@ public:
 private:
     Database &m_registry;
 };
+
+} // namespace kuyum

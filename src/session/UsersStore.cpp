@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 QStringList UsersStore::activeNames()
 {
     QStringList names;
@@ -198,3 +200,5 @@ PasswordCheck checkPassword(const Kullanici &user, const QString &typed)
     // Nothing typed can match a stored text that was never scrambled.
     return clearPassword(user) == typed ? PasswordCheck::Right : PasswordCheck::Wrong;
 }
+
+} // namespace kuyum

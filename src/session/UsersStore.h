@@ -6,6 +6,8 @@
 #include <optional>
 #include <QStringList>
 
+namespace kuyum {
+
 /// A row of Users, as far as the program reads it.
 struct Kullanici
 {
@@ -60,3 +62,5 @@ private:
 std::optional<QString> clearPassword(const Kullanici &user);
 /// Compares exactly, with case. A user without a stored password cannot log in.
 PasswordCheck checkPassword(const Kullanici &user, const QString &typed);
+
+} // namespace kuyum

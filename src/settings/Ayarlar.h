@@ -2,6 +2,8 @@
 
 #include <QString>
 
+namespace kuyum {
+
 /// The company's working settings, the row of XXX.
 struct Ayarlar
 {
@@ -13,3 +15,5 @@ struct Ayarlar
 
     bool operator==(const Ayarlar &) const = default;
 };
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include "Oturum.h"
 #include "Schema.h"
 
+namespace kuyum {
+
 QString yedektenDon(Oturum &oturum, const QString &backup, const WorkProgress &progress)
 {
     const QString path = oturum.Veritabani->path();
@@ -17,3 +19,5 @@ QString yedektenDon(Oturum &oturum, const QString &backup, const WorkProgress &p
     oturum.Veritabani = openCompany(path);
     return kept;
 }
+
+} // namespace kuyum

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 QList<AlanSatiri> alanlar(const TableDef &table)
 {
     QList<AlanSatiri> rows;
@@ -94,3 +96,5 @@ RepairResult TumDosyalariDuzenle(Oturum &oturum, const RepairProgress &progress)
     repair.commit();
     return result;
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include "MaintenanceProgress.h"
 #include "NullFill.h"
 
+namespace kuyum {
+
 struct Oturum;
 struct TableDef;
 
@@ -43,3 +45,5 @@ FilledTable DosyaDuzelt1(Database &db, const QString &table, const RepairProgres
 /// in one transaction. Bookkeeping tables are not touched. Throws DatabaseError
 /// and Cancelled; nothing is changed then.
 RepairResult TumDosyalariDuzenle(Oturum &oturum, const RepairProgress &progress = {});
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Where the codes of one kind stand.
@@ -81,3 +83,5 @@ void DurumStore::sil(const QString &kod)
     m_oturum.calistir(u"DELETE From %1 Where %2 = "_s.arg(yer.tablo, yer.alan) + sqlText(kod));
     removal.commit();
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+namespace kuyum {
+
 /// The two lists of status codes.
 enum class DurumTuru { Siparis, Uretim };
 
@@ -28,3 +30,5 @@ private:
     Oturum &m_oturum;
     DurumTuru m_tur;
 };
+
+} // namespace kuyum

@@ -15,6 +15,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// What the new database is made after.
@@ -66,7 +68,7 @@ void refuseTaken(const Oturum &oturum, const QString &target)
 {
     if (sameFile(target, oturum.Veritabani->path()))
         throw DatabaseError(u"Bu dosya, çalışılan veri tabanının kendisi; başka bir ad verin."_s);
-    // Opened again, it would be taken for a file of the former program.
+    // Opened again, it would be taken for a legacy file.
     if (isLegacyPath(target))
         throw DatabaseError(u"Yeni dosyaya .kuyum ile biten bir ad verin."_s);
     const QString refusal = placeRefusal(target);
@@ -180,3 +182,5 @@ void makeEmptyDatabase(Oturum &oturum, const QString &place, const MaintenancePr
     }
     reopen();
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include "MaintenanceProgress.h"
 
+namespace kuyum {
+
 struct Oturum;
 
 /// Makes a database file with the tables, fields and indexes of the open
@@ -20,3 +22,5 @@ class CompanyLost : public DatabaseError
 public:
     using DatabaseError::DatabaseError;
 };
+
+} // namespace kuyum

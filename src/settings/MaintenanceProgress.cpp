@@ -2,6 +2,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Cancelled stoppedUnchanged()
 {
     return Cancelled(u"İşlem durduruldu, hiçbir şey değiştirilmedi."_s);
@@ -23,3 +25,5 @@ QString copyBefore(Database &db, BackupKind kind, const MaintenanceProgress &pro
         throw stoppedUnchanged();
     }
 }
+
+} // namespace kuyum

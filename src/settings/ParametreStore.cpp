@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// The login took a legacy registry over; what it took it into is the registry.
 static std::unique_ptr<Database> openRegistryOf(const Oturum &oturum)
 {
@@ -113,3 +115,5 @@ void ParametreStore::yollariDegistir(const Sirket &yollar, std::unique_ptr<Datab
     m_oturum.ResimYolu = std::move(ResimYolu);
     m_oturum.Transferyolu = std::move(Transferyolu);
 }
+
+} // namespace kuyum

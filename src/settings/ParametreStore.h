@@ -8,6 +8,8 @@
 #include <memory>
 #include <optional>
 
+namespace kuyum {
+
 /// The settings of the session's company: its paths in the registry, and its
 /// row of XXX. Throws DatabaseError.
 class ParametreStore
@@ -41,3 +43,5 @@ public:
 private:
     Oturum &m_oturum;
 };
+
+} // namespace kuyum

@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Whether the file is one of this program's engine, by its first bytes.
@@ -84,3 +86,5 @@ RefreshSource readRefreshSource(const QString &path, const Database &working,
         throw DatabaseError(u"Bu dosyada hiç tablo yok."_s);
     return source;
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <functional>
 
+namespace kuyum {
+
 class Database;
 class TakeOver;
 
@@ -22,3 +24,5 @@ struct RefreshSource
 /// a registry, written by a newer program, or the working database itself.
 RefreshSource readRefreshSource(const QString &path, const Database &working,
                                 const std::function<void(TakeOver &)> &watch = {});
+
+} // namespace kuyum

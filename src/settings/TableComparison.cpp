@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// What every value of a type can be turned into without losing anything.
@@ -121,3 +123,5 @@ QString typeText(const FieldDef &field)
     return field.size > 0 ? u"%1(%2)"_s.arg(typeName(field.type)).arg(field.size)
                           : typeName(field.type);
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <optional>
 
+namespace kuyum {
+
 class Database;
 
 /// A field that both databases have, with another type or size there.
@@ -38,3 +40,5 @@ std::optional<FieldDef> widenedField(const FieldDef &ours, const FieldDef &their
 
 /// "Text(20)", "Long".
 QString typeText(const FieldDef &field);
+
+} // namespace kuyum

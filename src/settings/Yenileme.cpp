@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 bool overSameFields(const IndexDef &a, const IndexDef &b)
@@ -229,3 +231,5 @@ void Yenileme::tell(const QString &table, qint64 rows)
 {
     tellProgress(m_progress, table, m_done + int(rows), m_total);
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include "NullFill.h"
 #include "TableComparison.h"
 
+namespace kuyum {
+
 /// Told of a table that could not be refreshed and stays as it was. True: the
 /// rest goes on; false: all is undone.
 using RefreshFailure = std::function<bool(const QString &table, const QString &reason)>;
@@ -59,3 +61,5 @@ private:
     int m_done = 0; ///< before it; rows count twice: for the fields and for the filling
     int m_total = 0;
 };
+
+} // namespace kuyum

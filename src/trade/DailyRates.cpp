@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static QString ratesOf(QDate date)
 {
     return u"Select * From DovizD WHERE Tarih = "_s + sqlDate(date);
@@ -44,3 +46,5 @@ void carryRatesForward(Oturum &oturum)
     }
     transaction.commit();
 }
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static QString localCurrency(Database &db)
 {
     Recordset local = db.query(u"SELECT * From DovizB WHERE Dovulke = 1"_s);
@@ -46,3 +48,5 @@ double Deger(const QString &text)
         throw std::invalid_argument("not a number: " + text.toStdString());
     return leadingNumber(text);
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QDate>
 #include <QString>
 
+namespace kuyum {
+
 class Database;
 
 /// The selling rate of a currency on a date: 1 for the local one, 0 where there
@@ -20,3 +22,5 @@ double YogunlukBul(Database &db, double milyem);
 /// The number a text holds: 0 for an empty text; throws std::invalid_argument
 /// for one that is no number.
 double Deger(const QString &text);
+
+} // namespace kuyum

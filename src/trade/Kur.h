@@ -3,6 +3,8 @@
 #include <optional>
 #include <QString>
 
+namespace kuyum {
+
 /// Whether buying rates are entered besides the selling rates.
 enum class AlisKurlari { Yok, Tutulur };
 
@@ -15,3 +17,5 @@ struct KurSatiri
     std::optional<double> aliskur; ///< buying rate
     friend bool operator==(const KurSatiri &, const KurSatiri &) = default;
 };
+
+} // namespace kuyum

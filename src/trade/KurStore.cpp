@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 using Rates = QMap<QString, KurSatiri>;
@@ -155,3 +157,5 @@ QString KurStore::homeCurrency() const
     Recordset Kayit = m_oturum->sorgula(u"SELECT * From DovizB WHERE Dovulke = 1"_s);
     return Kayit.next() ? Kayit.text(u"Dovcinsi") : QString();
 }
+
+} // namespace kuyum

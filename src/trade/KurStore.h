@@ -6,6 +6,8 @@
 #include <QDate>
 #include <QList>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// Finds, saves and removes the exchange rates of a date. Everything throws
@@ -47,3 +49,5 @@ private:
 
     Oturum *m_oturum;
 };
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 std::optional<OrderCustomer> OrderLookups::firma(double Firkod) const
 {
     Recordset Kayit =
@@ -112,3 +114,5 @@ double OrderLookups::UrGram(const QString &model) const
     Recordset Kayit = m_oturum->sorgula(u"Select * From Model Where Model = "_s + sqlText(model));
     return Kayit.next() ? Kayit.number(u"m_miktar") : 0.0;
 }
+
+} // namespace kuyum

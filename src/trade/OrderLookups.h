@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+namespace kuyum {
+
 struct Oturum;
 
 /// A customer as the order screen takes it over.
@@ -64,3 +66,5 @@ private:
 
     Oturum *m_oturum;
 };
+
+} // namespace kuyum

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 enum Column { Record, Field, Loaded, Mine, Standing, Columns };
@@ -132,3 +134,5 @@ void ChangeBox::showEvent(QShowEvent *event)
     // The widths are those of the shown window; long texts go on below.
     m_table->resizeRowsToContents();
 }
+
+} // namespace kuyum

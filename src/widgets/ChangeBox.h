@@ -7,6 +7,8 @@
 
 class QTableWidget;
 
+namespace kuyum {
+
 /// Tells in what a record differs from the one that another stored meanwhile,
 /// and asks whose stays. Leaving the box goes back to the screen.
 class ChangeBox : public QDialog
@@ -28,3 +30,5 @@ private:
     QTableWidget *m_table = nullptr;
     ChangeAnswer m_answer = ChangeAnswer::Back;
 };
+
+} // namespace kuyum

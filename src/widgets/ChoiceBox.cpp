@@ -1,5 +1,7 @@
 #include "ChoiceBox.h"
 
+namespace kuyum {
+
 ChoiceBox::ChoiceBox(QWidget *parent) : QComboBox(parent)
 {
     connect(this, &QComboBox::activated, this, [this] {
@@ -21,3 +23,5 @@ void ChoiceBox::wheelEvent(QWheelEvent *event)
     QComboBox::wheelEvent(event);
     m_walking = false;
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <QComboBox>
 
+namespace kuyum {
+
 /// A list that tells choosing an entry from walking past it: arrow keys, typed
 /// letters and the wheel only move on, whatever they land on.
 class ChoiceBox : public QComboBox
@@ -22,3 +24,5 @@ protected:
 private:
     bool m_walking = false;
 };
+
+} // namespace kuyum

@@ -17,6 +17,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 // Where the mask's parts end.
@@ -228,3 +230,5 @@ bool holdDates(std::initializer_list<DateBox *> boxes, Messages &messages)
     }
     return true;
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include <QDate>
 #include <QLineEdit>
 
+namespace kuyum {
+
 class Messages;
 
 /// The program's box for a date, day.month.year, behind the mask 99.99.9999.
@@ -56,3 +58,5 @@ void keepDate(DateBox &box, Messages &messages);
 /// Whether each of the boxes holds a date; else says so and goes into the first
 /// one that does not. Asked by every action that takes their dates.
 bool holdDates(std::initializer_list<DateBox *> boxes, Messages &messages);
+
+} // namespace kuyum

@@ -1,7 +1,10 @@
 #pragma once
 
-class PrintDocument;
 class QWidget;
+
+namespace kuyum {
+
+class PrintDocument;
 
 /// The seam through which a screen hands a finished document to the user. The
 /// program opens the preview, from which it is printed or saved; the tests
@@ -16,3 +19,5 @@ public:
     /// Whether the document shown last went to a printer.
     virtual bool wasPrinted() const { return false; }
 };
+
+} // namespace kuyum

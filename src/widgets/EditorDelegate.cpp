@@ -4,6 +4,8 @@
 
 #include <QAbstractItemView>
 
+namespace kuyum {
+
 bool EditorDelegate::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::FocusOut && !leavesForGood(*event))
@@ -20,3 +22,5 @@ void finishCellEdit(QAbstractItemView &grid)
     Q_EMIT delegate->commitData(editor);
     Q_EMIT delegate->closeEditor(editor, QAbstractItemDelegate::NoHint);
 }
+
+} // namespace kuyum

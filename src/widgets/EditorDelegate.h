@@ -4,6 +4,8 @@
 
 class QAbstractItemView;
 
+namespace kuyum {
+
 /// Keeps its editor open while a message, a menu or another window is in front,
 /// where Qt would close it. A box that refuses what is being typed comes back
 /// to the editor, which stands as it did.
@@ -20,3 +22,5 @@ protected:
 
 /// Takes what an editor over the grid's current cell holds, and closes it.
 void finishCellEdit(QAbstractItemView &grid);
+
+} // namespace kuyum

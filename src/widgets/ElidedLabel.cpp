@@ -6,6 +6,8 @@
 #include <QStyle>
 #include <QToolTip>
 
+namespace kuyum {
+
 QString ElidedLabel::fittedText() const
 {
     return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
@@ -26,3 +28,5 @@ void ElidedLabel::paintEvent(QPaintEvent *)
     style()->drawItemText(&painter, contentsRect(), int(alignment()), palette(), isEnabled(),
                           fittedText(), foregroundRole());
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+namespace kuyum {
+
 /// A plain line of text that ends in dots where there is no room for all of it;
 /// then its tip tells it whole.
 class ElidedLabel : public QLabel
@@ -18,3 +20,5 @@ protected:
 private:
     QString fittedText() const;
 };
+
+} // namespace kuyum

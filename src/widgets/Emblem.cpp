@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+namespace kuyum {
+
 namespace {
 
 /// The drawing's own square: 0 to 100 both ways.
@@ -85,3 +87,5 @@ void Emblem::paintEvent(QPaintEvent *)
     QPainter painter(this);
     paintEmblem(painter, rect());
 }
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 
 class QPainter;
 
+namespace kuyum {
+
 /// The program's emblem, a gold ring with a brilliant, drawn at any size.
 void paintEmblem(QPainter &painter, const QRectF &box);
 QIcon emblemIcon();
@@ -20,3 +22,5 @@ public:
 protected:
     void paintEvent(QPaintEvent *event) override;
 };
+
+} // namespace kuyum

@@ -16,6 +16,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static bool isAcceptable(const QString &text)
 {
     return text.isEmpty() || text == ","_L1 || text == "."_L1 || isNumeric(text);
@@ -252,3 +254,5 @@ void SatirYaziRenk(QAbstractItemView &grid, const QColor &color)
         model.setData(cell, font, Qt::FontRole);
     });
 }
+
+} // namespace kuyum

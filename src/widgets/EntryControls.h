@@ -3,7 +3,6 @@
 #include <optional>
 #include <QString>
 
-class Messages;
 class QAbstractItemView;
 class QColor;
 class QComboBox;
@@ -13,6 +12,10 @@ class QKeyEvent;
 class QLineEdit;
 class QPushButton;
 class QTableView;
+
+namespace kuyum {
+
+class Messages;
 
 /// Helpers of the boxes, lists and grids that data are entered with.
 
@@ -71,3 +74,5 @@ void copyCells(const QTableView &grid);
 /// and without a colour takes both back.
 void SatirArkaRenk(QAbstractItemView &grid, const QColor &color);
 void SatirYaziRenk(QAbstractItemView &grid, const QColor &color = {});
+
+} // namespace kuyum

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QString askSheetPath(QWidget *parent, const QString &suggestion)
@@ -103,3 +105,5 @@ bool ExcelAktar::write(QWidget *parent, const ReportSheet &sheet, const QString 
         return !progress.wasCanceled();
     });
 }
+
+} // namespace kuyum

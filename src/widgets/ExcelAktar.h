@@ -5,8 +5,11 @@
 #include <functional>
 #include <QString>
 
-class Messages;
 class QWidget;
+
+namespace kuyum {
+
+class Messages;
 class SpreadsheetApplication;
 
 /// Asks where a spreadsheet is to be saved, offering a file name; empty for
@@ -34,3 +37,5 @@ private:
     Messages &m_messages;
     SheetChooser m_choose;
 };
+
+} // namespace kuyum

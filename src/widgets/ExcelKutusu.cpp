@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 ExcelKutusu::ExcelKutusu(QWidget *parent)
     : QWidget(parent),
       m_excel(new QCheckBox(u"E&xcel"_s)),
@@ -53,3 +55,5 @@ void ExcelKutusu::ticked()
     });
     m_excel->setChecked(false);
 }
+
+} // namespace kuyum

@@ -5,9 +5,12 @@
 #include <functional>
 #include <QWidget>
 
+class QCheckBox;
+
+namespace kuyum {
+
 class ExcelAktar;
 class Messages;
-class QCheckBox;
 
 /// The box `Check_Excel` of the reports: ticking it asks and hands the report
 /// to the spreadsheet program, then it stands unticked again. Beside it,
@@ -36,3 +39,5 @@ private:
     Messages *m_messages = nullptr;
     Source m_source;
 };
+
+} // namespace kuyum

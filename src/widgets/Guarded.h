@@ -5,6 +5,8 @@
 #include <exception>
 #include <utility>
 
+namespace kuyum {
+
 /// Tells the user of an error that nobody expected.
 inline void sayUnexpected(Messages &messages, QWidget *parent, const std::exception &error)
 {
@@ -30,3 +32,5 @@ bool guarded(Messages &messages, QWidget *parent, Action &&action)
         return false;
     }
 }
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static constexpr int lowestControl = 34;
 
 KuyumStyle::KuyumStyle() : QProxyStyle(QStyleFactory::create(u"Fusion"_s)) {}
@@ -238,3 +240,5 @@ int KuyumStyle::styleHint(StyleHint hint, const QStyleOption *option, const QWid
         return int(option->palette.color(QPalette::Mid).rgba());
     return QProxyStyle::styleHint(hint, option, widget, returnData);
 }
+
+} // namespace kuyum

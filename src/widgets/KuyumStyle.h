@@ -2,6 +2,8 @@
 
 #include <QProxyStyle>
 
+namespace kuyum {
+
 /// Fusion with flat buttons, room to breathe and a gold ring around whatever
 /// has the focus, whether a key or the mouse put it there.
 class KuyumStyle : public QProxyStyle
@@ -32,3 +34,5 @@ private:
     void drawArrow(PrimitiveElement arrow, SubControl part, const QStyleOptionComplex *option,
                    QPainter *painter, const QWidget *widget) const;
 };
+
+} // namespace kuyum

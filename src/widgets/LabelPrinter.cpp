@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 bool LabelOutlet::print(QWidget *parent, const PrintDocument &document, const QString &printerName)
 {
     const QString other = m_printer.standIn(printerName);
@@ -48,3 +50,5 @@ void InstalledLabelPrinter::print(const PrintDocument &document, const QString &
     }
     m_printers.print(document, name);
 }
+
+} // namespace kuyum

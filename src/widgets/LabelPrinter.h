@@ -2,10 +2,13 @@
 
 #include <QString>
 
+class QWidget;
+
+namespace kuyum {
+
 class Messages;
 class PrintDocument;
 class Printers;
-class QWidget;
 
 /// The seam through which a label gets onto paper: at once, without a preview.
 /// The tests keep the label and look at it.
@@ -56,3 +59,5 @@ private:
 
     const Printers &m_printers;
 };
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QAbstractItemView>
 #include <QPainter>
 
+namespace kuyum {
+
 void ListCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                              const QModelIndex &index) const
 {
@@ -44,3 +46,5 @@ QSize ListCellDelegate::sizeHint(const QStyleOptionViewItem &option, const QMode
                       option.fontMetrics.height());
     return needed.size() + QSize(2 * padding, lineSpace);
 }
+
+} // namespace kuyum

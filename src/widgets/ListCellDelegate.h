@@ -2,6 +2,8 @@
 
 #include <QStyledItemDelegate>
 
+namespace kuyum {
+
 /// Paints the cells of lists and reports, with room beside their texts, and
 /// frames the current one: keys such as F9 and F12 go by its column, which a
 /// highlighted row alone does not show.
@@ -17,3 +19,5 @@ public:
                const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 };
+
+} // namespace kuyum

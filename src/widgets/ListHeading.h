@@ -2,6 +2,8 @@
 
 #include <QHeaderView>
 
+namespace kuyum {
+
 /// The headings of a list's columns. Their texts stand as far from the columns'
 /// edges as those of the cells.
 class ListHeading : public QHeaderView
@@ -21,3 +23,5 @@ protected:
         option->text = right ? option->text + thinSpace : thinSpace + option->text;
     }
 };
+
+} // namespace kuyum

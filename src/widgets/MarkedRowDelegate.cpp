@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+namespace kuyum {
+
 void MarkedRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const
 {
@@ -22,3 +24,5 @@ void MarkedRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opt
     painter->fillRect(option.rect.x(), option.rect.bottom() + 1 - thickness, option.rect.width(),
                       thickness, frame);
 }
+
+} // namespace kuyum

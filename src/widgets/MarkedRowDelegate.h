@@ -2,6 +2,8 @@
 
 #include "ListCellDelegate.h"
 
+namespace kuyum {
+
 /// Paints the cells of a list whose rows can be marked by a colour of their
 /// own: on a marked row the selection is only a frame, so that the mark is seen.
 class MarkedRowDelegate : public ListCellDelegate
@@ -19,3 +21,5 @@ public:
 private:
     Qt::ItemDataRole m_mark;
 };
+
+} // namespace kuyum

@@ -16,6 +16,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static QMessageBox::Icon boxIcon(MessageIcon icon)
 {
     switch (icon) {
@@ -171,3 +173,5 @@ ChangeAnswer MessageBoxes::choose(QWidget *parent, const ChangedMeanwhile &chang
     box.exec();
     return box.answer();
 }
+
+} // namespace kuyum

@@ -3,8 +3,11 @@
 #include <optional>
 #include <QString>
 
-class ChangedMeanwhile;
 class QWidget;
+
+namespace kuyum {
+
+class ChangedMeanwhile;
 
 enum class MessageIcon { None, Information, Exclamation, Critical };
 enum class MessageButtons { Ok, YesNo };
@@ -62,3 +65,5 @@ public:
                                  const QString &preset) override;
     ChangeAnswer choose(QWidget *parent, const ChangedMeanwhile &changed) override;
 };
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <QResizeEvent>
 
+namespace kuyum {
+
 PictureBox::PictureBox(QWidget *parent) : QLabel(parent)
 {
     setAlignment(Qt::AlignCenter);
@@ -46,3 +48,5 @@ void PictureBox::resizeEvent(QResizeEvent *event)
     if (!m_path.isEmpty() && contentsRect().size() != m_loadedFor)
         load();
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+namespace kuyum {
+
 /// Shows a picture file as large as the box allows, or why it cannot be shown.
 class PictureBox : public QLabel
 {
@@ -25,3 +27,5 @@ private:
     QString m_error;
     QSize m_loadedFor;
 };
+
+} // namespace kuyum

@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// A page's whole width at 300 dots per inch; a camera's full size would only
@@ -139,3 +141,5 @@ void PictureEntry::resizeEvent(QResizeEvent *event)
     else
         PictureBox::resizeEvent(event);
 }
+
+} // namespace kuyum

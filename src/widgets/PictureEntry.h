@@ -7,6 +7,8 @@
 
 class QMimeData;
 
+namespace kuyum {
+
 /// Asks for the file of a picture; empty when none was chosen.
 using PictureChooser = std::function<QString(QWidget *parent)>;
 
@@ -56,3 +58,5 @@ private:
     PictureChooser m_choose;
     QImage m_new;
 };
+
+} // namespace kuyum

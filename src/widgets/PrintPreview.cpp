@@ -23,6 +23,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QString askPdfPath(QWidget *parent, const QString &suggestion)
@@ -285,3 +287,5 @@ void PreviewViewer::show(QWidget *parent, const PrintDocument &document)
     PrintPreview preview(document, m_printers, m_messages, parent);
     m_wasPrinted = preview.exec() == QDialog::Accepted;
 }
+
+} // namespace kuyum

@@ -8,8 +8,6 @@
 #include <QDialog>
 #include <QKeySequence>
 
-class Messages;
-class Printers;
 class QAbstractButton;
 class QComboBox;
 class QLabel;
@@ -17,6 +15,11 @@ class QPrinter;
 class QPrintPreviewWidget;
 class QPushButton;
 class QToolButton;
+
+namespace kuyum {
+
+class Messages;
+class Printers;
 
 /// Asks where a PDF is to be saved, offering a file name; empty for nowhere.
 using PdfChooser = std::function<QString(QWidget *parent, const QString &suggestion)>;
@@ -85,3 +88,5 @@ private:
     Messages &m_messages;
     bool m_wasPrinted = false;
 };
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Shows a decimal point and takes a comma for one.
@@ -65,3 +67,5 @@ PagePoint PrinterOffset::offset() const
 {
     return {Twips::fromMillimetres(m_right->value()), Twips::fromMillimetres(m_down->value())};
 }
+
+} // namespace kuyum

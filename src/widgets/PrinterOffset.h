@@ -6,6 +6,8 @@
 
 class QDoubleSpinBox;
 
+namespace kuyum {
+
 /// Asks how far a printer's pages are to be moved, in millimetres.
 class PrinterOffset : public QDialog
 {
@@ -22,3 +24,5 @@ private:
     QDoubleSpinBox *m_right;
     QDoubleSpinBox *m_down;
 };
+
+} // namespace kuyum

@@ -19,6 +19,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int narrowestColumn = 64;
@@ -397,3 +399,5 @@ QString RaporGrid::copiedText() const
         lines.append(totals.join(u'\t'));
     return lines.join(u'\n');
 }
+
+} // namespace kuyum

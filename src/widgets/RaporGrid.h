@@ -7,6 +7,9 @@
 
 class QScrollBar;
 class QTableView;
+
+namespace kuyum {
+
 class RaporModel;
 
 /// Shows a report's figures to be read, sorted and copied. The heading stays
@@ -65,3 +68,5 @@ private:
     int m_sortColumn = -1;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 };
+
+} // namespace kuyum

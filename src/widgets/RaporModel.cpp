@@ -7,6 +7,8 @@
 #include <QDate>
 #include <QFont>
 
+namespace kuyum {
+
 namespace {
 
 bool isText(const QVariant &value)
@@ -153,3 +155,5 @@ void RaporModel::sortLines(qsizetype from, qsizetype to, int column, Qt::SortOrd
     };
     std::stable_sort(m_order.begin() + (from - m_first), m_order.begin() + (to - m_first), less);
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 #include <QAbstractTableModel>
 #include <vector>
 
+namespace kuyum {
+
 /// A stretch of a report's rows for a view. Lines are put into order between
 /// the captions and totals, which keep their places.
 class RaporModel : public QAbstractTableModel
@@ -39,3 +41,5 @@ private:
     qsizetype m_first = 0;
     std::vector<qsizetype> m_order; ///< rows of the table, as they are shown
 };
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 
 class QWidget;
 
+namespace kuyum {
+
 /// Makes a document with pictures; nothing when it was stopped.
 using DocumentMaker = std::function<std::optional<PrintDocument>(const PictureProgress &progress)>;
 
@@ -14,3 +16,5 @@ using DocumentMaker = std::function<std::optional<PrintDocument>(const PicturePr
 /// takes long, and with which the user can stop it.
 std::optional<PrintDocument> makeWithProgress(QWidget *parent, const QString &title,
                                               const DocumentMaker &make);
+
+} // namespace kuyum

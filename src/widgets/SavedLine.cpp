@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 SavedLine::SavedLine(QWidget *parent) : ElidedLabel(parent)
 {
     setObjectName(u"kayitNotu"_s);
@@ -51,3 +53,5 @@ void SavedLine::forget()
     clear();
     setVisible(!m_hides);
 }
+
+} // namespace kuyum

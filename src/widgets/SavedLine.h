@@ -5,6 +5,8 @@
 class QBoxLayout;
 class QLineEdit;
 
+namespace kuyum {
+
 /// The line by which every screen says what was saved, when it stands at its
 /// key again. It is calm: nothing to answer, and gone as soon as the next key
 /// is entered.
@@ -28,3 +30,5 @@ public:
 private:
     bool m_hides = false; ///< while there is nothing to say
 };
+
+} // namespace kuyum

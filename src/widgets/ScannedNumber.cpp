@@ -2,6 +2,8 @@
 
 #include <QLineEdit>
 
+namespace kuyum {
+
 /// Longer than from a code's last digit to the Enter behind it.
 static constexpr int silenceMs = 200;
 
@@ -21,3 +23,5 @@ ScannedNumber::ScannedNumber(QLineEdit *box, std::function<bool(const QString &t
     });
     connect(&m_silence, &QTimer::timeout, this, &ScannedNumber::complete);
 }
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 
 class QLineEdit;
 
+namespace kuyum {
+
 /// Tells when a whole code was scanned into a box. Scanners that send Enter
 /// behind it need nobody to tell; those that send none fall silent.
 class ScannedNumber : public QObject
@@ -21,3 +23,5 @@ Q_SIGNALS:
 private:
     QTimer m_silence;
 };
+
+} // namespace kuyum

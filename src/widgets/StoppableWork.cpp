@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 StoppableWork::StoppableWork(QWidget *parent, const QString &title, const QString &text)
     : m_box(text, {}, 0, 0, parent)
 {
@@ -24,3 +26,5 @@ std::function<bool(int done, int total)> StoppableWork::progress()
         return !m_box.wasCanceled();
     };
 }
+
+} // namespace kuyum

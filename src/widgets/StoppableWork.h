@@ -3,6 +3,8 @@
 #include <functional>
 #include <QProgressDialog>
 
+namespace kuyum {
+
 /// Tells the user of work that takes a while, and lets it be stopped. What is
 /// done at once is not told of.
 class StoppableWork
@@ -19,3 +21,5 @@ public:
 private:
     QProgressDialog m_box;
 };
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <QStyleOption>
 
+namespace kuyum {
+
 static constexpr double corner = 5;
 
 static bool isEnabled(const QStyleOption *option)
@@ -164,3 +166,5 @@ void drawScrollBar(const QStyleOptionSlider *option, const QRect &handle, QPaint
     drawPanel(painter, bar, held ? colors.accent : lineColor(option).darker(colors.dark ? 80 : 112),
               Qt::NoPen, qMin(bar.width(), bar.height()) / 2);
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@ class QStyleOption;
 class QStyleOptionHeader;
 class QStyleOptionSlider;
 
+namespace kuyum {
+
 /// How the parts of KuyumStyle look. Each takes its state and palette from the
 /// option: what has the focus is ringed with gold.
 
@@ -22,3 +24,5 @@ void drawCheckBox(const QStyleOption *option, QPainter *painter);
 void drawRadioButton(const QStyleOption *option, QPainter *painter);
 void drawHeaderSection(const QStyleOptionHeader *option, QPainter *painter);
 void drawScrollBar(const QStyleOptionSlider *option, const QRect &handle, QPainter *painter);
+
+} // namespace kuyum

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 bool isDark(const QPalette &palette)
@@ -106,3 +108,5 @@ void applyTheme(QApplication &application)
         font.setPointSizeF(smallestReadable);
     application.setFont(font);
 }
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 class QApplication;
 class QPalette;
 
+namespace kuyum {
+
 /// The look of the program: Fusion in light or dark, with gold as its one
 /// accent. KUYUM_TEMA=acik or koyu in the environment overrides what the
 /// system says.
@@ -25,3 +27,5 @@ struct ThemeColors
 };
 
 ThemeColors themeColors(const QPalette &palette);
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 #include <QKeyEvent>
 #include <QPointer>
 
+namespace kuyum {
+
 namespace {
 
 class TypedChoice : public QObject
@@ -85,3 +87,5 @@ void chooseEntriesAsTyped(QCoreApplication &application)
 {
     application.installEventFilter(new TypedChoice(&application));
 }
+
+} // namespace kuyum

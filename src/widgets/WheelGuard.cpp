@@ -5,6 +5,8 @@
 #include <QComboBox>
 #include <QEvent>
 
+namespace kuyum {
+
 namespace {
 
 class WheelGuard : public QObject
@@ -37,3 +39,5 @@ void guardBoxesFromWheel(QCoreApplication &application)
 {
     application.installEventFilter(new WheelGuard(&application));
 }
+
+} // namespace kuyum

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// What a system's frame takes of the screen, where it cannot be asked yet.
@@ -112,7 +114,8 @@ private:
 
     static QString keyOf(const QWidget &window, const QString &what)
     {
-        return u"pencere/%1/%2"_s.arg(QLatin1StringView(window.metaObject()->className()), what);
+        const QLatin1StringView name(window.metaObject()->className());
+        return u"pencere/%1/%2"_s.arg(name.sliced(name.lastIndexOf(u':') + 1), what);
     }
 
     void open(QWidget &window) const
@@ -169,3 +172,5 @@ void rememberWindows(QCoreApplication &application, QSettings &settings)
 {
     application.installEventFilter(new WindowPlaces(settings, &application));
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@ class QCoreApplication;
 class QSettings;
 class QWidget;
 
+namespace kuyum {
+
 /// Gives a window its size, as far as the screen allows.
 void fitToScreen(QWidget &window, QSize wanted);
 
@@ -18,3 +20,5 @@ void keepOnScreen(QWidget &window);
 /// is not used, and a window that has placed itself stays there. The settings
 /// stay the caller's and outlive the windows.
 void rememberWindows(QCoreApplication &application, QSettings &settings);
+
+} // namespace kuyum

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct Outcome
@@ -559,4 +561,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(CommandLineTest)
+
+} // namespace kuyum
+
 #include "CommandLineTest.moc"

@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QString modulesOf(Symbology symbology, const QString &text)
@@ -100,4 +102,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(AllCodesTest)
+
+} // namespace kuyum
+
 #include "AllCodesTest.moc"

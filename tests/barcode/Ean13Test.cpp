@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class Ean13Test : public QObject
 {
     Q_OBJECT
@@ -72,4 +74,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(Ean13Test)
+
+} // namespace kuyum
+
 #include "Ean13Test.moc"

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 BarkodAlani field(const QString &text, double left, double top)
@@ -144,4 +146,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(EtiketSablonuTest)
+
+} // namespace kuyum
+
 #include "EtiketSablonuTest.moc"

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 Etiket ring(const QString &model = u"YZK-Ş 12"_s)
@@ -159,4 +161,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(EtiketTest)
+
+} // namespace kuyum
+
 #include "EtiketTest.moc"

@@ -4,6 +4,8 @@
 
 #include <QStringList>
 
+namespace kuyum {
+
 /// The texts of a label in the order in which they were put on it.
 inline QList<PageText> labelTexts(const PrintDocument &document)
 {
@@ -22,3 +24,5 @@ inline QStringList labelLines(const PrintDocument &document)
         lines.append(text.text);
     return lines;
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class ModuleBarkodTest : public QObject
 {
     Q_OBJECT
@@ -65,4 +67,7 @@ private:
 };
 
 KUYUM_TEST(ModuleBarkodTest)
+
+} // namespace kuyum
+
 #include "ModuleBarkodTest.moc"

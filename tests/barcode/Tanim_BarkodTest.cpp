@@ -19,6 +19,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Keeps what was printed, and on which printer it should have been.
@@ -286,4 +288,7 @@ private:
 };
 
 KUYUM_TEST(Tanim_BarkodTest)
+
+} // namespace kuyum
+
 #include "Tanim_BarkodTest.moc"

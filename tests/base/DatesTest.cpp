@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class DatesTest : public QObject
 {
     Q_OBJECT
@@ -54,4 +56,7 @@ void DatesTest::storesAndShows()
 }
 
 KUYUM_TEST(DatesTest)
+
+} // namespace kuyum
+
 #include "DatesTest.moc"

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class NumbersTest : public QObject
 {
     Q_OBJECT
@@ -107,4 +109,7 @@ void NumbersTest::writesSqlNumbers()
 }
 
 KUYUM_TEST(NumbersTest)
+
+} // namespace kuyum
+
 #include "NumbersTest.moc"

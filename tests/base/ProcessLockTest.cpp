@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// A lock that no living process holds is no obstacle.
 class ProcessLockTest : public QObject
 {
@@ -65,4 +67,7 @@ void ProcessLockTest::aHeldLockCountsHoweverOld()
 }
 
 KUYUM_TEST(ProcessLockTest)
+
+} // namespace kuyum
+
 #include "ProcessLockTest.moc"

@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class TurkishTextTest : public QObject
 {
     Q_OBJECT
@@ -79,4 +81,7 @@ void TurkishTextTest::findsAsOneTypes()
 }
 
 KUYUM_TEST(TurkishTextTest)
+
+} // namespace kuyum
+
 #include "TurkishTextTest.moc"

@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class Windows1254Test : public QObject
 {
     Q_OBJECT
@@ -35,4 +37,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(Windows1254Test)
+
+} // namespace kuyum
+
 #include "Windows1254Test.moc"

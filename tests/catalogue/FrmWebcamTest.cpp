@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 const ScriptedMessages::Expected noCamera{
@@ -255,4 +257,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(FrmWebcamTest)
+
+} // namespace kuyum
+
 #include "FrmWebcamTest.moc"

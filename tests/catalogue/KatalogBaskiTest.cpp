@@ -8,6 +8,9 @@
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
+
+namespace kuyum {
+
 using namespace PageReading;
 
 namespace {
@@ -180,4 +183,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(KatalogBaskiTest)
+
+} // namespace kuyum
+
 #include "KatalogBaskiTest.moc"

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class KatalogStoreTest : public QObject
 {
     Q_OBJECT
@@ -140,4 +142,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(KatalogStoreTest)
+
+} // namespace kuyum
+
 #include "KatalogStoreTest.moc"

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct Catalogues : DefinitionFixture<Tanim_Katalog>
@@ -263,4 +265,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(Tanim_KatalogTest)
+
+} // namespace kuyum
+
 #include "Tanim_KatalogTest.moc"

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// Backups and restores that are ended at any point or find no room: what
 /// bears a backup's name is one, and the database is wholly the one or wholly
 /// the other.
@@ -232,4 +234,7 @@ void BackupHardshipTest::aFullDiskReplacesNothing()
 }
 
 KUYUM_TEST(BackupHardshipTest)
+
+} // namespace kuyum
+
 #include "BackupHardshipTest.moc"

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// Copies of a company, their checks, and the way back.
 class BackupTest : public QObject
 {
@@ -396,9 +398,9 @@ void BackupTest::nothingIsReplacedByARefusedOrStoppedRestore()
     }
     m_db.reset();
     for (const int stopAt : {0, 150, 300, 600, 900}) {
-        QVERIFY_THROWS_EXCEPTION(
-            Cancelled,
-            restoreBackup(company(), backup, [&](int done, int) { return done < stopAt; }));
+        QVERIFY_THROWS_EXCEPTION(Cancelled, restoreBackup(company(), backup, [&](int done, int) {
+                                     return done < stopAt;
+                                 }));
     }
     QCOMPARE(fileBytes(company()), before);
     QCOMPARE(inFolder(), QStringList{u"atolye.kuyum"_s});
@@ -406,4 +408,7 @@ void BackupTest::nothingIsReplacedByARefusedOrStoppedRestore()
 }
 
 KUYUM_TEST(BackupTest)
+
+} // namespace kuyum
+
 #include "BackupTest.moc"

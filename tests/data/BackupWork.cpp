@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+using namespace kuyum;
+
 static void tell(const QString &line)
 {
     std::printf("%s\n", qPrintable(line));

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class DialectTest : public QObject
 {
     Q_OBJECT
@@ -124,4 +126,7 @@ void DialectTest::usesIndexes()
 }
 
 KUYUM_TEST(DialectTest)
+
+} // namespace kuyum
+
 #include "DialectTest.moc"

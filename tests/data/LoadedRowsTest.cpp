@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// What a save tells of changes made meanwhile, and what it keeps quiet about.
 class LoadedRowsTest : public QObject
 {
@@ -156,4 +158,7 @@ private:
 };
 
 KUYUM_TEST(LoadedRowsTest)
+
+} // namespace kuyum
+
 #include "LoadedRowsTest.moc"

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class RecordsetTest : public QObject
 {
     Q_OBJECT
@@ -360,4 +362,7 @@ void RecordsetTest::refusesForeignFiles()
 }
 
 KUYUM_TEST(RecordsetTest)
+
+} // namespace kuyum
+
 #include "RecordsetTest.moc"

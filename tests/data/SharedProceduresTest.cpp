@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class SharedProceduresTest : public QObject
 {
     Q_OBJECT
@@ -127,4 +129,7 @@ void SharedProceduresTest::writesCsv()
 }
 
 KUYUM_TEST(SharedProceduresTest)
+
+} // namespace kuyum
+
 #include "SharedProceduresTest.moc"

@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// Every shape of SQL text that the program's screens and reports build, run
 /// unchanged against a company whose answers can be reckoned by hand.
 class SqlTextsTest : public QObject
@@ -320,4 +322,7 @@ void SqlTextsTest::deletes()
 }
 
 KUYUM_TEST(SqlTextsTest)
+
+} // namespace kuyum
+
 #include "SqlTextsTest.moc"

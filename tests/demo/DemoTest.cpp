@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 void ignoreProgress(const QString &) {}
@@ -259,4 +261,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(DemoTest)
+
+} // namespace kuyum
+
 #include "DemoTest.moc"

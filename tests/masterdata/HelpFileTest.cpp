@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class HelpFileTest : public QObject
 {
     Q_OBJECT
@@ -71,4 +73,7 @@ private:
 };
 
 KUYUM_TEST(HelpFileTest)
+
+} // namespace kuyum
+
 #include "HelpFileTest.moc"

@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class Liste_ComboTest : public QObject
 {
     Q_OBJECT
@@ -289,4 +291,7 @@ private:
 };
 
 KUYUM_TEST(Liste_ComboTest)
+
+} // namespace kuyum
+
 #include "Liste_ComboTest.moc"

@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static void insertRows(Database &db, const QString &table, const QStringList &rows)
 {
     for (const QString &row : rows)
@@ -73,3 +75,5 @@ QStringList remainingRows(LookupRows &rows)
     }
     return result;
 }
+
+} // namespace kuyum

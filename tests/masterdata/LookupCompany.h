@@ -5,6 +5,8 @@
 
 #include <QTemporaryDir>
 
+namespace kuyum {
+
 /// A session on a small company that has rows for every list.
 struct LookupCompany
 {
@@ -19,3 +21,5 @@ struct LookupCompany
 
 /// The texts of all rows that are left, with the columns that are not shown.
 QStringList remainingRows(LookupRows &rows);
+
+} // namespace kuyum

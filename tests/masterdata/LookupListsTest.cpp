@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class LookupListsTest : public QObject
 {
     Q_OBJECT
@@ -150,4 +152,7 @@ private:
 };
 
 KUYUM_TEST(LookupListsTest)
+
+} // namespace kuyum
+
 #include "LookupListsTest.moc"

@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Rows made up as they are read, with a hidden column.
@@ -125,4 +127,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(LookupModelTest)
+
+} // namespace kuyum
+
 #include "LookupModelTest.moc"

@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class MalzemeModelTest : public QObject
 {
     Q_OBJECT
@@ -49,4 +51,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(MalzemeModelTest)
+
+} // namespace kuyum
+
 #include "MalzemeModelTest.moc"

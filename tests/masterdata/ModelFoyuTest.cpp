@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct Item
@@ -176,4 +178,7 @@ void ModelFoyuTest::framesAMissingPicture()
 }
 
 KUYUM_TEST(ModelFoyuTest)
+
+} // namespace kuyum
+
 #include "ModelFoyuTest.moc"

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class ModelStoreTest : public QObject
 {
     Q_OBJECT
@@ -164,4 +166,7 @@ void ModelStoreTest::keepsTheCodesOfEverySpelling()
 }
 
 KUYUM_TEST(ModelStoreTest)
+
+} // namespace kuyum
+
 #include "ModelStoreTest.moc"

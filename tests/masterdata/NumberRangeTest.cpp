@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class NumberRangeTest : public QObject
 {
     Q_OBJECT
@@ -37,4 +39,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(NumberRangeTest)
+
+} // namespace kuyum
+
 #include "NumberRangeTest.moc"

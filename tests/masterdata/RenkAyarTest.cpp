@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct Colours : DefinitionFixture<Tanim_Renk>
@@ -130,4 +132,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(RenkAyarTest)
+
+} // namespace kuyum
+
 #include "RenkAyarTest.moc"

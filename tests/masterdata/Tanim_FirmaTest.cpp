@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct Customers : DefinitionFixture<Tanim_Firma>
@@ -184,4 +186,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(Tanim_FirmaTest)
+
+} // namespace kuyum
+
 #include "Tanim_FirmaTest.moc"

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct Molds : DefinitionFixture<Tanim_Kalip>
@@ -190,4 +192,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(Tanim_KalipTest)
+
+} // namespace kuyum
+
 #include "Tanim_KalipTest.moc"

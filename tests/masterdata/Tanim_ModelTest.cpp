@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct Models : DefinitionFixture<Tanim_Model>
@@ -577,4 +579,7 @@ void Tanim_ModelTest::deletesTheModelOfOneType()
 }
 
 KUYUM_TEST(Tanim_ModelTest)
+
+} // namespace kuyum
+
 #include "Tanim_ModelTest.moc"

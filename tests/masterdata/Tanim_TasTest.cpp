@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct Stones : DefinitionFixture<Tanim_Tas>
@@ -269,4 +271,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(Tanim_TasTest)
+
+} // namespace kuyum
+
 #include "Tanim_TasTest.moc"

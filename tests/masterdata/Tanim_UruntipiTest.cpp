@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct ProductTypes : DefinitionFixture<Tanim_Uruntipi>
@@ -141,4 +143,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(Tanim_UruntipiTest)
+
+} // namespace kuyum
+
 #include "Tanim_UruntipiTest.moc"

@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 class NoDocuments : public DocumentViewer
@@ -481,4 +483,7 @@ void GirisKurTest::keepsTheOldRatesWhenSavingFails()
 }
 
 KUYUM_TEST(GirisKurTest)
+
+} // namespace kuyum
+
 #include "GirisKurTest.moc"

@@ -17,6 +17,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// The order screen on a fresh company, with a lookup list that answers as
@@ -1075,4 +1077,7 @@ void GirisSiparisTest::theSlipIsPrintedAsChosenLastTime()
 }
 
 KUYUM_TEST(GirisSiparisTest)
+
+} // namespace kuyum
+
 #include "GirisSiparisTest.moc"

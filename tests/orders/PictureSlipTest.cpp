@@ -11,6 +11,9 @@
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
+
+namespace kuyum {
+
 using namespace SlipReading;
 
 namespace {
@@ -331,4 +334,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(PictureSlipTest)
+
+} // namespace kuyum
+
 #include "PictureSlipTest.moc"

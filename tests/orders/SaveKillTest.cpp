@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// The program dies in the middle of saving, at many points, or the disk gets
 /// full: what is on disk is one whole save, never a mixture and never nothing.
 class SaveKillTest : public QObject
@@ -104,4 +106,7 @@ void SaveKillTest::aFullDiskLeavesTheOldLines()
 }
 
 KUYUM_TEST(SaveKillTest)
+
+} // namespace kuyum
+
 #include "SaveKillTest.moc"

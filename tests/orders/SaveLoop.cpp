@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <QCoreApplication>
 
+using namespace kuyum;
+
 /// save_loop DATABASE ORDER: saves the order over and over, with the number of
 /// the save in the header's note and in the note of every line, and prints
 /// that number once the save is done, until it is killed.

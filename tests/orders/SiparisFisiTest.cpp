@@ -12,6 +12,9 @@
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
+
+namespace kuyum {
+
 using namespace SlipReading;
 
 namespace {
@@ -304,4 +307,7 @@ private:
 };
 
 KUYUM_TEST(SiparisFisiTest)
+
+} // namespace kuyum
+
 #include "SiparisFisiTest.moc"

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class SiparisStoreTest : public QObject
 {
     Q_OBJECT
@@ -368,4 +370,7 @@ void SiparisStoreTest::checksInOrder()
 }
 
 KUYUM_TEST(SiparisStoreTest)
+
+} // namespace kuyum
+
 #include "SiparisStoreTest.moc"

@@ -3,6 +3,8 @@
 #include "PageReading.h"
 #include "Siparis.h"
 
+namespace kuyum {
+
 /// Orders to print, made without a database.
 namespace SlipReading {
 
@@ -46,3 +48,5 @@ inline Siparis orderOf(const QList<SiparisSatiri> &rows)
 }
 
 } // namespace SlipReading
+
+} // namespace kuyum

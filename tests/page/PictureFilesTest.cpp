@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QByteArray encoded(int width, int height, const char *format)
@@ -218,4 +220,7 @@ private:
 };
 
 KUYUM_TEST(PictureFilesTest)
+
+} // namespace kuyum
+
 #include "PictureFilesTest.moc"

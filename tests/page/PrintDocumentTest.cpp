@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class PrintDocumentTest : public QObject
 {
     Q_OBJECT
@@ -145,4 +147,7 @@ private:
 };
 
 KUYUM_TEST(PrintDocumentTest)
+
+} // namespace kuyum
+
 #include "PrintDocumentTest.moc"

@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 using Kind = ReportColumnKind;
@@ -160,4 +162,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(ReportPagesTest)
+
+} // namespace kuyum
+
 #include "ReportPagesTest.moc"

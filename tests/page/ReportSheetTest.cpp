@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 using Kind = ReportColumnKind;
@@ -164,4 +166,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(ReportSheetTest)
+
+} // namespace kuyum
+
 #include "ReportSheetTest.moc"

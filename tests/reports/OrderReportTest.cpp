@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 const ReportPeriod period{QDate(2024, 1, 10), QDate(2024, 2, 28)};
@@ -356,4 +358,7 @@ void OrderReportTest::stopsWhenTold()
 }
 
 KUYUM_TEST(OrderReportTest)
+
+} // namespace kuyum
+
 #include "OrderReportTest.moc"

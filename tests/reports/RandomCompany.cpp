@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QVariant stored(const RandomCompany::Number &number)
@@ -113,3 +115,5 @@ void RandomCompany::store()
     }
     transaction.commit();
 }
+
+} // namespace kuyum

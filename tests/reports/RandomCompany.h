@@ -6,6 +6,8 @@
 #include <QTemporaryDir>
 #include <random>
 
+namespace kuyum {
+
 /// A small company of chance in which everything is off that can be: models in
 /// several spellings, undefined ones and ones without materials, parts named
 /// twice, types, customers and codes that are gone, nulls, karats with decimals.
@@ -86,3 +88,5 @@ private:
 
     std::mt19937 m_random;
 };
+
+} // namespace kuyum

@@ -20,6 +20,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 class NoSheets : public SpreadsheetApplication
@@ -510,4 +512,7 @@ void RaporGenelTest::marksOrdersAndPrintsThem()
 }
 
 KUYUM_TEST(RaporGenelTest)
+
+} // namespace kuyum
+
 #include "RaporGenelTest.moc"

@@ -18,6 +18,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 class KeptSheets : public SpreadsheetApplication
@@ -207,4 +209,7 @@ void Rapor_SiparisTest::saysThatThereIsNothing()
 }
 
 KUYUM_TEST(Rapor_SiparisTest)
+
+} // namespace kuyum
+
 #include "Rapor_SiparisTest.moc"

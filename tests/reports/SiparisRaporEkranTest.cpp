@@ -17,6 +17,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 class FakeSpreadsheet : public SpreadsheetApplication
@@ -262,4 +264,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(SiparisRaporEkranTest)
+
+} // namespace kuyum
+
 #include "SiparisRaporEkranTest.moc"

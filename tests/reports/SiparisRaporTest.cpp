@@ -15,6 +15,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 using Row = QMap<QString, QVariant>;
@@ -362,4 +364,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(SiparisRaporTest)
+
+} // namespace kuyum
+
 #include "SiparisRaporTest.moc"

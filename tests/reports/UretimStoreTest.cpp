@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// A stored line, read without any condition.
@@ -339,4 +341,7 @@ void UretimStoreTest::findsLinesAgainThatWereWrittenAnew()
 }
 
 KUYUM_TEST(UretimStoreTest)
+
+} // namespace kuyum
+
 #include "UretimStoreTest.moc"

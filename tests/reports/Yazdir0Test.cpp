@@ -9,6 +9,9 @@
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
+
+namespace kuyum {
+
 using namespace PageReading;
 
 namespace {
@@ -221,4 +224,7 @@ void Yazdir0Test::readsPicturesOnceIntoThePdf()
 }
 
 KUYUM_TEST(Yazdir0Test)
+
+} // namespace kuyum
+
 #include "Yazdir0Test.moc"

@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// Takes what tells where a replaced file was kept, whose name holds the time.
 class RestoreMessages : public ScriptedMessages
 {
@@ -269,4 +271,7 @@ void BackupStartTest::aMissingCompanyIsNotTakenOverAgain()
 }
 
 KUYUM_TEST(BackupStartTest)
+
+} // namespace kuyum
+
 #include "BackupStartTest.moc"

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// An open login window, worked with the keys.
 class LoginOnScreen
 {
@@ -290,4 +292,7 @@ void LoginTest::workingDate()
 }
 
 KUYUM_TEST(LoginTest)
+
+} // namespace kuyum
+
 #include "LoginTest.moc"

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// Screens that only note which one was opened, how, and that it is gone.
 struct NotedScreens
 {
@@ -282,4 +284,7 @@ void MenuTest::ratesAreCarriedOnce()
 }
 
 KUYUM_TEST(MenuTest)
+
+} // namespace kuyum
+
 #include "MenuTest.moc"

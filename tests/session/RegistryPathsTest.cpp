@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class RegistryPathsTest : public QObject
 {
     Q_OBJECT
@@ -70,4 +72,7 @@ void RegistryPathsTest::databaseWhoseNameDiffersInCase()
 }
 
 KUYUM_TEST(RegistryPathsTest)
+
+} // namespace kuyum
+
 #include "RegistryPathsTest.moc"

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class StartUpTest : public QObject
 {
     Q_OBJECT
@@ -146,7 +148,7 @@ void StartUpTest::legacyFilesAreTakenOver()
         QCOMPARE(oturum.DataYolu, u"c:\\database\\atolye.mdb"_s);
         QCOMPARE(oturum.Veritabani->path(), folder.filePath(u"atolye.kuyum"_s));
     }
-    // Somebody goes on working with the former program.
+    // Somebody goes on working with the legacy file.
     QFile legacy(folder.filePath(u"atolye.mdb"_s));
     QVERIFY(legacy.setPermissions(QFile::ReadOwner | QFile::WriteOwner));
     QVERIFY(legacy.open(QFile::Append));
@@ -201,4 +203,7 @@ void StartUpTest::stoppedTakeOverLeavesNothing()
 }
 
 KUYUM_TEST(StartUpTest)
+
+} // namespace kuyum
+
 #include "StartUpTest.moc"

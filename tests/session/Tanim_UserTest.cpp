@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// The menu has items 0, 7 and 17. User 1 is Admin; user 5, O'Hara, may use the
@@ -385,4 +387,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(Tanim_UserTest)
+
+} // namespace kuyum
+
 #include "Tanim_UserTest.moc"

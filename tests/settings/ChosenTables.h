@@ -2,6 +2,8 @@
 
 #include "TableDef.h"
 
+namespace kuyum {
+
 /// Differs from the sample company in tables, fields, types, sizes, indexes.
 inline QList<TableDef> chosenTables()
 {
@@ -38,3 +40,5 @@ inline QList<TableDef> chosenTables()
          {index(u"Adi", {u"Adi"_s}, true)}},
     };
 }
+
+} // namespace kuyum

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// The repair fills the nulls and nothing but the nulls.
 class DosyaDuzeltTest : public QObject
 {
@@ -194,4 +196,7 @@ void DosyaDuzeltTest::stoppedOrFailedChangesNothing()
 }
 
 KUYUM_TEST(DosyaDuzeltTest)
+
+} // namespace kuyum
+
 #include "DosyaDuzeltTest.moc"

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// The screen by its keys.
 class Dosya_YenileTest : public QObject
 {
@@ -209,4 +211,7 @@ void Dosya_YenileTest::tellsWhatCannotBeReached()
 }
 
 KUYUM_TEST(Dosya_YenileTest)
+
+} // namespace kuyum
+
 #include "Dosya_YenileTest.moc"

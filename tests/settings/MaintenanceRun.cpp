@@ -7,6 +7,8 @@
 #include <cstdio>
 #include <QCoreApplication>
 
+using namespace kuyum;
+
 /// maintenance_run DATABASE [CHOSEN]: repairs the company, or refreshes it by the
 /// chosen database. Tells a line when it begins and one when it is done or has
 /// failed.

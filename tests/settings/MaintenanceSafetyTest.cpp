@@ -15,6 +15,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// Repair and refresh end in the middle, by a kill or a full disk: the database
 /// is wholly as before, or wholly as after.
 class MaintenanceSafetyTest : public QObject
@@ -172,4 +174,7 @@ void MaintenanceSafetyTest::fullDiskUnderANewDatabase()
 }
 
 KUYUM_TEST(MaintenanceSafetyTest)
+
+} // namespace kuyum
+
 #include "MaintenanceSafetyTest.moc"

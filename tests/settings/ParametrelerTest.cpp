@@ -19,6 +19,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct TwoPrinters : Printers
@@ -508,4 +510,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(ParametrelerTest)
+
+} // namespace kuyum
+
 #include "ParametrelerTest.moc"

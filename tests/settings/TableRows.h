@@ -6,6 +6,8 @@
 
 #include <QMap>
 
+namespace kuyum {
+
 /// Every stored value of a table as "type:value", row by row in their order.
 inline QList<QStringList> storedRows(const Database &db, const QString &table)
 {
@@ -44,3 +46,5 @@ inline QString definitions(const Database &db)
     db.engine().next(query);
     return query.value(0).toString();
 }
+
+} // namespace kuyum

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// The refresh adds, widens and fills; it takes nothing away.
 class YenilemeTest : public QObject
 {
@@ -334,4 +336,7 @@ void YenilemeTest::newDatabaseGoesNowhereElse()
 }
 
 KUYUM_TEST(YenilemeTest)
+
+} // namespace kuyum
+
 #include "YenilemeTest.moc"

@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QStringList runReader(const QStringList &arguments)
@@ -74,3 +76,5 @@ QList<int> runsOfDots(const QImage &image, int row)
         runs.removeLast();
     return runs;
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+namespace kuyum {
+
 /// Reads the bar codes of a picture with zbarimg, as "EAN-13:5901234123457".
 QStringList readBarcodes(const QImage &image, const QStringList &options = {});
 
@@ -27,3 +29,5 @@ private:
 /// The lengths of the runs of one colour in a row of a black and white
 /// picture, from its first black dot to its last.
 QList<int> runsOfDots(const QImage &image, int row);
+
+} // namespace kuyum

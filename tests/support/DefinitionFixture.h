@@ -15,6 +15,8 @@
 #include <QTimer>
 #include <QtTest>
 
+namespace kuyum {
+
 /// Keeps what was to be shown.
 struct KeptDocuments : DocumentViewer
 {
@@ -177,3 +179,5 @@ struct DefinitionFixture
     KeptLabels labels;
     std::unique_ptr<Screen> screen;
 };
+
+} // namespace kuyum

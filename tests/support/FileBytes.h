@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QTest>
 
+namespace kuyum {
+
 /// The whole content of a file; nothing when there is none.
 inline QByteArray fileBytes(const QString &path)
 {
@@ -17,3 +19,5 @@ inline void writeFile(const QString &path, const QByteArray &content)
     QVERIFY(file.open(QIODevice::WriteOnly));
     QCOMPARE(file.write(content), content.size());
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <limits>
 #include <sqlite3.h>
 
+namespace kuyum {
+
 struct FullDisk::Room
 {
     qint64 bytes = std::numeric_limits<qint64>::max();
@@ -141,3 +143,5 @@ bool FullDisk::wasFull() const
 {
     return m_room->wasFull;
 }
+
+} // namespace kuyum

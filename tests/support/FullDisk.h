@@ -2,6 +2,12 @@
 
 #include <memory>
 #include <QtGlobal>
+#ifdef Q_OS_UNIX
+#include <csignal>
+#include <sys/resource.h>
+#endif
+
+namespace kuyum {
 
 /// A disk that gets full, for the databases that are opened while this lives:
 /// a layer below the engine that takes so many bytes more and then answers that
@@ -40,8 +46,6 @@ private:
 };
 
 #ifdef Q_OS_UNIX
-#include <csignal>
-#include <sys/resource.h>
 
 /// The same for plain files: while it lives no file can be written beyond its
 /// first bytes.
@@ -67,3 +71,5 @@ private:
     void (*m_signal)(int);
 };
 #endif
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 
 #include <QList>
 
+namespace kuyum {
+
 /// Keeps what a screen wanted to show.
 class KeptDocuments : public DocumentViewer
 {
@@ -12,3 +14,5 @@ public:
     void show(QWidget *, const PrintDocument &document) override { documents.append(document); }
     QList<PrintDocument> documents;
 };
+
+} // namespace kuyum

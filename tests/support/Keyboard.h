@@ -2,6 +2,8 @@
 
 #include <QtTest>
 
+namespace kuyum {
+
 /// Keys that go wherever the focus is, as a keyboard's do.
 struct Keyboard
 {
@@ -22,3 +24,5 @@ struct Keyboard
         key(Qt::Key_Return);
     }
 };
+
+} // namespace kuyum

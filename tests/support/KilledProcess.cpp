@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int patience = 60000; // milliseconds
@@ -59,3 +61,5 @@ qint64 workingTime(const QString &program, const QStringList &arguments)
         throw std::runtime_error("the program failed: " + program.toStdString());
     return timer.nsecsElapsed() / 1000;
 }
+
+} // namespace kuyum

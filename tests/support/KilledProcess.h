@@ -4,6 +4,8 @@
 #include <QList>
 #include <QStringList>
 
+namespace kuyum {
+
 /// How many times a test ends a process at a random point of an operation:
 /// KUYUM_KILLS, or few enough for every run of the tests.
 int killCount();
@@ -21,3 +23,5 @@ QList<QByteArray> killedWhileWorking(const QString &program, const QStringList &
 /// microseconds: the span in which killedWhileWorking() meets every point.
 /// Throws std::runtime_error when it failed.
 qint64 workingTime(const QString &program, const QStringList &arguments);
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 
 #include <QTemporaryDir>
 
+namespace kuyum {
+
 /// A fresh copy of the sample company, and its orders read back as text.
 struct OrderFixture
 {
@@ -76,3 +78,5 @@ struct OrderFixture
     QTemporaryDir dir;
     Oturum oturum;
 };
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 #include <QFontMetricsF>
 #include <QRegularExpression>
 
+namespace kuyum {
+
 /// What printed pages hold, and whether it stands on them as it should.
 namespace PageReading {
 
@@ -121,3 +123,5 @@ inline QString layoutFault(const PrintDocument &document)
 }
 
 } // namespace PageReading
+
+} // namespace kuyum

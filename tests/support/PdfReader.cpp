@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr double twipsPerPoint = 20;
@@ -69,3 +71,5 @@ QStringList pdfImages(const QString &path)
 {
     return tableRows(output(u"pdfimages"_s, {u"-list"_s, path}));
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include <QList>
 #include <QString>
 
+namespace kuyum {
+
 /// Reads printed pages back with poppler's tools.
 
 struct PdfWord
@@ -23,3 +25,5 @@ QImage pdfDots(const QString &path, int dotsPerInch);
 QStringList pdfFonts(const QString &path);
 /// The pictures as pdfimages lists them, one line for each place on a page.
 QStringList pdfImages(const QString &path);
+
+} // namespace kuyum

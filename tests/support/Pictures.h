@@ -3,6 +3,8 @@
 #include <QFile>
 #include <QImage>
 
+namespace kuyum {
+
 /// Pictures of one colour, and files of them.
 
 inline QImage plainPicture(const QColor &color, QSize size = {40, 30})
@@ -24,3 +26,5 @@ inline bool isJpegOf(const QString &path, const QColor &color)
            std::abs(middle.green() - color.green()) < 9 &&
            std::abs(middle.blue() - color.blue()) < 9;
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <functional>
 #include <QtTest>
 
+namespace kuyum {
+
 /// Answers the program's own boxes, as the user does, with a real Enter, and
 /// counts them. `look` sees each one before.
 class RealBox : public QObject
@@ -33,3 +35,5 @@ private:
     QTimer m_poll;
     int m_shown = 0;
 };
+
+} // namespace kuyum

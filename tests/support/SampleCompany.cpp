@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Rows of one table; a row may leave out its last fields.
@@ -102,3 +104,5 @@ std::unique_ptr<Database> makeSampleCompany(const QString &path)
     transaction.commit();
     return db;
 }
+
+} // namespace kuyum

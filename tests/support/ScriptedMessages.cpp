@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static void failTest(const QString &text)
 {
     QTest::qFail(qPrintable(text), __FILE__, __LINE__);
@@ -111,3 +113,5 @@ ChangeAnswer ScriptedMessages::choose(QWidget *, const ChangedMeanwhile &changed
         step->expected.meanwhile();
     return *step->change;
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 #include <functional>
 #include <QList>
 
+namespace kuyum {
+
 /// The user's answers in a test, written down beforehand in their order:
 ///
 ///     ScriptedMessages messages;
@@ -72,3 +74,5 @@ private:
 
     QList<Step> m_script;
 };
+
+} // namespace kuyum

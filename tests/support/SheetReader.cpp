@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QByteArray output(const QString &program, const QStringList &arguments)
@@ -68,3 +70,5 @@ QByteArray sheetPart(const QString &path, const QString &part)
 {
     return output(u"unzip"_s, {u"-p"_s, path, part});
 }
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 void addRow(Database &db, const QString &table, const QMap<QString, QVariant> &fields)
 {
     Recordset rows = db.table(table);
@@ -66,3 +68,5 @@ Oturum TestCompanies::loggedIn(const QString &name, qint32 number, QDate date) c
     oturum.CalismaTarihi = date;
     return oturum;
 }
+
+} // namespace kuyum

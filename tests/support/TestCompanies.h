@@ -4,6 +4,8 @@
 
 #include <QTemporaryDir>
 
+namespace kuyum {
+
 /// A registry with three companies in a fresh folder: 1 is the sample company
 /// with some more users, 2 has a single user, the file of 3 is missing. A row
 /// of another kind stands between them.
@@ -23,3 +25,5 @@ private:
 
 /// Adds a row to a table, field by field.
 void addRow(Database &db, const QString &table, const QMap<QString, QVariant> &fields);
+
+} // namespace kuyum

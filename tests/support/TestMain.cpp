@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QTest>
 
+namespace kuyum {
+
 static std::map<QString, TestRegistry::Factory> &factories()
 {
     static std::map<QString, TestRegistry::Factory> map;
@@ -17,6 +19,10 @@ TestRegistry::TestRegistry(const char *name, Factory factory)
 {
     factories()[QString::fromLatin1(name)] = factory;
 }
+
+} // namespace kuyum
+
+using namespace kuyum;
 
 /// A take-over runs its steps in processes of the program itself, which is this
 /// one in a test.

@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QString>
 
+namespace kuyum {
+
 /// Makes a test class known to its folder's test program, which runs the
 /// classes named on its command line, or all of them.
 class TestRegistry
@@ -16,3 +18,5 @@ public:
 #define KUYUM_TEST(TestClass)                                                                      \
     static const TestRegistry TestClass##Registration(                                             \
         #TestClass, [] { return std::unique_ptr<QObject>(new TestClass); });
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <QtTest>
 
+namespace kuyum {
+
 /// Types a text into a widget, the Turkish letters too, which the keys of
 /// QTest do not have.
 inline void typeText(QWidget *widget, const QString &text)
@@ -16,3 +18,5 @@ inline void holdKey(QWidget *widget, Qt::Key key)
     QKeyEvent repeat(QEvent::KeyPress, key, Qt::NoModifier, QString(), true);
     QCoreApplication::sendEvent(widget, &repeat);
 }
+
+} // namespace kuyum

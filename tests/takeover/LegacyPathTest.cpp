@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class LegacyPathTest : public QObject
 {
     Q_OBJECT
@@ -59,4 +61,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(LegacyPathTest)
+
+} // namespace kuyum
+
 #include "LegacyPathTest.moc"

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 QByteArray utf16(const QString &text)
@@ -146,3 +148,5 @@ qsizetype LegacySample::fixedField(const Row &row, qsizetype definition, const Q
 {
     return row.start + 2 + qsizetype(number(columnOf(definition, field) + 21, 2));
 }
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 #include <QString>
 #include <QTemporaryDir>
 
+namespace kuyum {
+
 /// A copy of an example legacy file that a test may damage or change, byte by
 /// byte, and take over.
 class LegacySample
@@ -56,3 +58,5 @@ public:
 private:
     QTemporaryDir m_folder;
 };
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class LegacyValuesTest : public QObject
 {
     Q_OBJECT
@@ -115,4 +117,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(LegacyValuesTest)
+
+} // namespace kuyum
+
 #include "LegacyValuesTest.moc"

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 // Characters that no text of the examples holds.
@@ -50,3 +52,5 @@ QString asExported(const QVariant &value)
         return value.toBool() ? u"1"_s : u"0"_s;
     return value.toString();
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include <QString>
 #include <QVariant>
 
+namespace kuyum {
+
 /// A legacy file as another program reads it.
 QStringList mdbTables(const QString &file);
 
@@ -13,3 +15,5 @@ QList<QStringList> mdbExport(const QString &file, const QString &table);
 /// A value of ours as that program writes it; it does not tell an empty text
 /// from none.
 QString asExported(const QVariant &value);
+
+} // namespace kuyum

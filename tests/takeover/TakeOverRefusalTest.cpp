@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// Bad input: said clearly, nothing left, and this process still here.
 class TakeOverRefusalTest : public QObject
 {
@@ -181,4 +183,7 @@ void TakeOverRefusalTest::anUnreadableFileIsGivenUp()
 }
 
 KUYUM_TEST(TakeOverRefusalTest)
+
+} // namespace kuyum
+
 #include "TakeOverRefusalTest.moc"

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// What is in an example file arrives wholly and once.
 class TakeOverTest : public QObject
 {
@@ -299,4 +301,7 @@ void TakeOverTest::cancellingLeavesNothing()
 }
 
 KUYUM_TEST(TakeOverTest)
+
+} // namespace kuyum
+
 #include "TakeOverTest.moc"

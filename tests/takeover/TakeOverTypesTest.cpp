@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// Every type of field, by giving fields of the example another type that holds
 /// the same bytes: what those bytes mean then is known.
 class TakeOverTypesTest : public QObject
@@ -178,4 +180,7 @@ void TakeOverTypesTest::whatTheEngineCannotKeepRefuses()
 }
 
 KUYUM_TEST(TakeOverTypesTest)
+
+} // namespace kuyum
+
 #include "TakeOverTypesTest.moc"

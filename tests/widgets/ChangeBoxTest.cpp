@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// The box that asks whose change stays, with real keys.
 class ChangeBoxTest : public QObject
 {
@@ -60,4 +62,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(ChangeBoxTest)
+
+} // namespace kuyum
+
 #include "ChangeBoxTest.moc"

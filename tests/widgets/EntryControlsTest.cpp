@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class EntryControlsTest : public QObject
 {
     Q_OBJECT
@@ -201,4 +203,7 @@ void EntryControlsTest::dateBoxStepsAndShowsACalendar()
 }
 
 KUYUM_TEST(EntryControlsTest)
+
+} // namespace kuyum
+
 #include "EntryControlsTest.moc"

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 class MessagesTest : public QObject
 {
     Q_OBJECT
@@ -114,4 +116,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(MessagesTest)
+
+} // namespace kuyum
+
 #include "MessagesTest.moc"

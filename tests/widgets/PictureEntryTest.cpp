@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// What the box said, and what it asked for.
@@ -135,4 +137,7 @@ void PictureEntryTest::theStoredPictureIsNotNew()
 }
 
 KUYUM_TEST(PictureEntryTest)
+
+} // namespace kuyum
+
 #include "PictureEntryTest.moc"

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int testPages = 3;
@@ -264,4 +266,7 @@ private:
 };
 
 KUYUM_TEST(PrintPreviewTest)
+
+} // namespace kuyum
+
 #include "PrintPreviewTest.moc"

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 using Kind = ReportColumnKind;
@@ -214,4 +216,7 @@ private Q_SLOTS:
 };
 
 KUYUM_TEST(RaporGridTest)
+
+} // namespace kuyum
+
 #include "RaporGridTest.moc"

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// A window of the program's own.
@@ -123,4 +125,7 @@ private:
 };
 
 KUYUM_TEST(WindowSizeTest)
+
+} // namespace kuyum
+
 #include "WindowSizeTest.moc"

@@ -2,6 +2,8 @@
 
 #include <QPainter>
 
+namespace kuyum {
+
 namespace {
 
 constexpr int pixelsPerUnit = 2;
@@ -38,3 +40,5 @@ void BarkodKutusu::paintEvent(QPaintEvent *)
     const QPoint corner((width() - size.width()) / 2, (height() - size.height()) / 2);
     painter.drawImage(QRect(corner, size), m_surface.image());
 }
+
+} // namespace kuyum

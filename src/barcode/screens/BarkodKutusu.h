@@ -4,6 +4,8 @@
 
 #include <QWidget>
 
+namespace kuyum {
+
 /// Shows a product's symbol as on paper: black on white in every theme.
 class BarkodKutusu : public QWidget
 {
@@ -23,3 +25,5 @@ private:
     BarkodYuzeyi m_surface;
     bool m_isDrawn = false;
 };
+
+} // namespace kuyum

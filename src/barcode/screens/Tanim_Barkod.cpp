@@ -18,6 +18,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Tanim_Barkod::Tanim_Barkod(const ScreenContext &context, LabelPrinter &labelPrinter,
                            QWidget *parent)
     : QDialog(parent),
@@ -333,3 +335,5 @@ void Tanim_Barkod::preview()
     if (hasPrices())
         m_context.viewer.show(this, document());
 }
+
+} // namespace kuyum

@@ -10,10 +10,11 @@
 
 class QLabel;
 class QLineEdit;
-
 namespace Ui {
 class Tanim_Barkod;
 }
+
+namespace kuyum {
 
 /// Prints the label of a model on the label printer. The model is typed or
 /// taken from the list; what is printed can be changed before it is.
@@ -72,3 +73,5 @@ private:
     QList<AskedBox> m_asked;
     std::optional<EtiketModeli> m_found; ///< the model on the screen
 };
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 void FrameView::showFrame(const QImage &frame)
 {
     m_frame = frame;
@@ -24,3 +26,5 @@ void FrameView::paintEvent(QPaintEvent *)
     place.moveCenter(rect().center());
     painter.drawImage(place, m_frame);
 }
+
+} // namespace kuyum

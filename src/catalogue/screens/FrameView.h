@@ -3,6 +3,8 @@
 #include <QImage>
 #include <QWidget>
 
+namespace kuyum {
+
 /// The capture window: the last frame, as large as the room allows.
 class FrameView : public QWidget
 {
@@ -19,3 +21,5 @@ protected:
 private:
     QImage m_frame;
 };
+
+} // namespace kuyum

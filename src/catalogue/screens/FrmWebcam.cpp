@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int mostMillisecondsToFirstFrame = 8000;
@@ -229,3 +231,5 @@ QImage webcamFrame(const WebcamServices &services, QWidget *parent, const QStrin
     const bool wanted = Secilen == "KALIP CEK"_L1 || Secilen == "MODEL CEK"_L1;
     return wanted ? screen.takenFrame() : QImage();
 }
+
+} // namespace kuyum

@@ -6,12 +6,14 @@
 #include <QDialog>
 #include <QTimer>
 
-class Messages;
 class QSettings;
-
 namespace Ui {
 class FrmWebcam;
 }
+
+namespace kuyum {
+
+class Messages;
 
 /// What the webcam screen works with, handed in by the program.
 struct WebcamServices
@@ -67,3 +69,5 @@ private:
 /// CEK") and returns the frame that was taken, null for none. For any other
 /// `Secilen` the frame goes to the clipboard only.
 QImage webcamFrame(const WebcamServices &services, QWidget *parent, const QString &Secilen);
+
+} // namespace kuyum

@@ -9,6 +9,8 @@
 #include <QKeyEvent>
 #include <QLineEdit>
 
+namespace kuyum {
+
 namespace {
 
 /// The editors of weight and remark.
@@ -157,3 +159,5 @@ void KatalogGrid::spreadColumns()
     setColumnWidth(KatalogModel::kisaAdColumn, shortName);
     setColumnWidth(KatalogModel::aciklamaColumn, room - model);
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include <QTableView>
 
+namespace kuyum {
+
 class KatalogModel;
 class Messages;
 
@@ -39,3 +41,5 @@ private:
     KatalogModel *m_model = nullptr;
     int m_pressedAt = -1; ///< the height at which the mouse took a row; -1: it has none
 };
+
+} // namespace kuyum

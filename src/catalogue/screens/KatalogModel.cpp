@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 double typedGram(const QString &text)
 {
     return formatNumber(leadingNumber(text), u"#0.00").toDouble();
@@ -122,3 +124,5 @@ Qt::ItemFlags KatalogModel::flags(const QModelIndex &cell) const
     const bool edited = cell.column() == gramColumn || cell.column() == aciklamaColumn;
     return cell.isValid() && edited ? all | Qt::ItemIsEditable : all;
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <QAbstractTableModel>
 
+namespace kuyum {
+
 /// The rows of a catalogue as the grid shows them. Weight and remark can be
 /// edited; the row's model cannot.
 class KatalogModel : public QAbstractTableModel
@@ -47,3 +49,5 @@ private:
 
 /// The number of a weight as it is typed, to the two decimals that are shown.
 double typedGram(const QString &text);
+
+} // namespace kuyum

@@ -16,6 +16,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Tanim_Katalog::Tanim_Katalog(const ScreenContext &context, QWidget *parent)
     : QDialog(parent, Qt::Window),
       m_context(context),
@@ -423,3 +425,5 @@ void Tanim_Katalog::print(QAbstractButton *choice, Katalog_Baski form)
         m_context.messages.say(this, u"BILGILER YAZICIYA GONDERILMISTIR..."_s, MessageIcon::None,
                                u"TARLEN"_s);
 }
+
+} // namespace kuyum

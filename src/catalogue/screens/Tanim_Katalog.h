@@ -8,13 +8,15 @@
 #include <memory>
 #include <QDialog>
 
-class KatalogModel;
 class QAbstractButton;
 class QLineEdit;
-
 namespace Ui {
 class Tanim_Katalog;
 }
+
+namespace kuyum {
+
+class KatalogModel;
 
 /// Assembles catalogues of models and prints them. Before a name is entered
 /// only the name and the list live; then the catalogue, found or new, stands
@@ -78,3 +80,5 @@ private:
     Katalog m_opened;                      ///< the catalogue as it is stored
     std::optional<KatalogSatiri> m_chosen; ///< the model in the entry boxes
 };
+
+} // namespace kuyum

@@ -15,6 +15,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Holds the database as it is: reading goes on, writing waits.
@@ -185,3 +187,5 @@ std::optional<BackupFile> newestGoodBackup(const QString &database, const WorkPr
     }
     return std::nullopt;
 }
+
+} // namespace kuyum

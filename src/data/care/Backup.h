@@ -7,6 +7,8 @@
 
 #include <optional>
 
+namespace kuyum {
+
 class Database;
 
 /// Copies the open database, through this very connection, into the folder of
@@ -37,3 +39,5 @@ std::optional<BackupFile> newestGoodBackup(const QString &database,
 /// where the replaced one was kept; empty when there was none.
 QString restoreBackup(const QString &database, const QString &backup,
                       const WorkProgress &progress = {});
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+namespace kuyum {
+
 class Database;
 
 /// What making and restoring backups share.
@@ -15,3 +17,5 @@ QString copyToBackup(const Database &db, const QString &path, const WorkStage &s
 /// checkBackup() of a file that should be, byte by byte, the backup: itself or
 /// a copy.
 void checkBackupFile(const QString &file, const QString &backup, const WorkStage &stage);
+
+} // namespace kuyum

@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct KindName
@@ -209,3 +211,5 @@ void BackupPlace::prune() const
             QFile::remove(digestPath(all[i].path));
     }
 }
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 #include <QLockFile>
 #include <QString>
 
+namespace kuyum {
+
 enum class BackupKind { Daily, Manual, BeforeRepair, BeforeRefresh, BeforeRestore };
 
 struct BackupFile
@@ -56,3 +58,5 @@ private:
     QString m_folder;
     QLockFile m_lock;
 };
+
+} // namespace kuyum

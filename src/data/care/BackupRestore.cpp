@@ -14,6 +14,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// What the engine may leave beside a database and plays into whatever file
@@ -174,3 +176,5 @@ QString restoreBackup(const QString &database, const QString &backup, const Work
         throw;
     }
 }
+
+} // namespace kuyum

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// The codes without their row, and how many rows bear each, the most frequent
@@ -146,3 +148,5 @@ QStringList checkReport(const DatabaseCheck &check)
     section(u"Boş (null) alanlar"_s, entries);
     return lines;
 }
+
+} // namespace kuyum

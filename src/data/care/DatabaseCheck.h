@@ -3,6 +3,8 @@
 #include <QMap>
 #include <QStringList>
 
+namespace kuyum {
+
 class Database;
 
 /// What a check of a company's database found. Dangling codes and empty fields
@@ -45,3 +47,5 @@ DatabaseCheck checkDatabase(const Database &db);
 
 /// What was found, as lines to read.
 QStringList checkReport(const DatabaseCheck &check);
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static constexpr auto digestEnding = ".sha256"_L1;
 
 QString digestPath(const QString &file)
@@ -69,3 +71,5 @@ QByteArray readDigest(const QString &file)
                             QDir::toNativeSeparators(source.fileName()));
     return digest;
 }
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 #include <QByteArray>
 #include <QString>
 
+namespace kuyum {
+
 /// The SHA-256 of a file, kept beside it as "FILE.sha256" in the form that
 /// `sha256sum -c` reads. Everything throws DatabaseError, and Cancelled
 /// when the stage is stopped.
@@ -20,3 +22,5 @@ void writeDigest(const QByteArray &digest, const QString &file);
 
 /// The digest that lies beside the file; one that cannot be read is refused.
 QByteArray readDigest(const QString &file);
+
+} // namespace kuyum

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// A field with nulls, and whether an index forbids it to hold a value twice.
@@ -128,3 +130,5 @@ FilledTable fillNulls(Database &db, const QString &table,
     }
     return result;
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include <QList>
 #include <QString>
 
+namespace kuyum {
+
 class Database;
 
 struct FilledField
@@ -29,3 +31,5 @@ qint64 filledNulls(const QList<FilledTable> &tables);
 /// Throws DatabaseError.
 FilledTable fillNulls(Database &db, const QString &table,
                       const std::function<void(qint64 rows)> &rowsDone);
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr quint32 catalogPage = 2;
@@ -125,3 +127,5 @@ MdbCatalogEntry mdbEntry(MdbHandle *handle, const QByteArray &name, quint32 page
     std::strncpy(entry.object_name, name.constData(), MDB_MAX_OBJ_NAME);
     return entry;
 }
+
+} // namespace kuyum

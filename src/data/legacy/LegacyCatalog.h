@@ -4,6 +4,8 @@
 
 #include <QList>
 
+namespace kuyum {
+
 /// A table as the legacy file's own list has it.
 struct LegacyCatalogEntry
 {
@@ -21,3 +23,5 @@ QList<LegacyCatalogEntry> readCatalog(MdbHandle *handle, qint64 fileSize);
 /// The entry as the library wants it.
 MdbCatalogEntry mdbEntry(MdbHandle *handle, const QByteArray &name, quint32 page,
                          GPtrArray *properties = nullptr);
+
+} // namespace kuyum

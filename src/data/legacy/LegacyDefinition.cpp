@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct LegacyType
@@ -153,3 +155,5 @@ TableDef translateDefinition(MdbTableDef *table)
     }
     return result;
 }
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 struct LegacyFile::State
 {
     MdbPointer handle;
@@ -51,3 +53,5 @@ LegacyRows LegacyFile::rows(const LegacyTable &table)
         handle, mdbEntry(handle, table.definition.name.toUtf8(), table.page),
         m_state->longValueBudget));
 }
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 #include <QList>
 #include <QString>
 
+namespace kuyum {
+
 /// A user table of a legacy database.
 struct LegacyTable
 {
@@ -61,3 +63,5 @@ private:
     struct State;
     std::unique_ptr<State> m_state;
 };
+
+} // namespace kuyum

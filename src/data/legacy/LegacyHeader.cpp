@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// The database password, which hides behind the day the file was made on.
@@ -82,3 +84,5 @@ void checkHeader(MdbHandle *handle, qint64 fileSize)
     checkFirstPage(handle, fileSize);
     checkLength(handle, fileSize);
 }
+
+} // namespace kuyum

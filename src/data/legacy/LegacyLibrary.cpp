@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 void refuseDamaged(const QString &what)
 {
     throw DatabaseError(u"Dosya hasarlı: "_s + what +
@@ -20,3 +22,5 @@ bool isLegacyName(const QString &name)
         return c < u' ' || !c.isPrint() || QStringView(u".!`[]").contains(c);
     });
 }
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 // The reading library's header wants glib's, whose casts are C casts.
 #include <mdbtools.h>
 
+namespace kuyum {
+
 /// What the files that read legacy databases share around libmdb. Not for
 /// others: the header brings a whole C world with it.
 
@@ -34,3 +36,5 @@ inline MdbColumn *columnAt(const MdbTableDef *table, unsigned place)
 /// Whether the legacy engine allows a table or field to have this name. One
 /// that it does not is a damaged one.
 bool isLegacyName(const QString &name);
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 bool isLegacyPath(const QString &path)
 {
     return path.endsWith(u".mdb"_s, Qt::CaseInsensitive);
@@ -38,3 +40,5 @@ OpenablePath ensureTakenOver(const QString &path, const std::function<void(TakeO
     }
     return result;
 }
+
+} // namespace kuyum

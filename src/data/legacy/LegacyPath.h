@@ -3,6 +3,8 @@
 #include <functional>
 #include <QString>
 
+namespace kuyum {
+
 class TakeOver;
 
 /// Which file is opened for a path that may name a legacy database. A legacy
@@ -30,3 +32,5 @@ struct OpenablePath
 /// the user stopped it.
 OpenablePath ensureTakenOver(const QString &path,
                              const std::function<void(TakeOver &)> &watch = {});
+
+} // namespace kuyum

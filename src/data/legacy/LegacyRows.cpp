@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 // Marks beside a row's place on its page. A row that moved leaves a pointer to
@@ -239,3 +241,5 @@ qint64 LegacyRows::rowCount() const
 {
     return m_state->count;
 }
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 
 #include <vector>
 
+namespace kuyum {
+
 /// Walks through a table's rows. The library's own way through a table takes
 /// every place where a row once stood after it had grown for a row of its own,
 /// so a row that moved twice, or was deleted after it had moved, would come up
@@ -45,3 +47,5 @@ private:
     DateStorer m_dates;
     LegacyTexts m_texts;
 };
+
+} // namespace kuyum

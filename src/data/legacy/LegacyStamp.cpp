@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 qint64 modifiedAt(const QFileInfo &file)
@@ -64,3 +66,5 @@ std::optional<LegacyStamp> readStamp(Database &db)
     return LegacyStamp{row.value(0).toLongLong(), row.value(1).toLongLong(),
                        row.value(2).toString().toLatin1()};
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include <QByteArray>
 #include <QString>
 
+namespace kuyum {
+
 class Database;
 
 /// What tells a legacy file's state: kept in the database that was made from
@@ -25,3 +27,5 @@ bool matchesStamp(const QString &path, const LegacyStamp &stamp);
 void writeStamp(Database &db, const LegacyStamp &stamp);
 /// Nothing for a database that was not taken over.
 std::optional<LegacyStamp> readStamp(Database &db);
+
+} // namespace kuyum

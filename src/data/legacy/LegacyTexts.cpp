@@ -1,5 +1,7 @@
 #include "LegacyTexts.h"
 
+namespace kuyum {
+
 namespace {
 
 constexpr size_t shortText = 64;
@@ -59,3 +61,5 @@ void LegacyTexts::convert(std::string_view source, std::string &target)
         mdb_unicode2ascii(m_handle, source.data(), source.size(), target.data(), room - 1);
     target.resize(size_t(qMax(0, length)));
 }
+
+} // namespace kuyum

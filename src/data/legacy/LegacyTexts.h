@@ -7,6 +7,8 @@
 #include <string_view>
 #include <unordered_map>
 
+namespace kuyum {
+
 /// Reads texts of a legacy file as UTF-8. Remembers the short ones, of which
 /// few fill many rows: codes, statuses, colours.
 class LegacyTexts
@@ -35,3 +37,5 @@ private:
     /// UTF-8 by the bytes in the file; found by a view of these.
     std::unordered_map<std::string, std::string, Hash, std::equal_to<>> m_known;
 };
+
+} // namespace kuyum

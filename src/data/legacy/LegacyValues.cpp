@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Below this, a count of digits that a number keeps exactly.
@@ -121,3 +123,5 @@ QVariant defaultValueOf(FieldType type, QString expression)
     const qlonglong integer = expression.toLongLong(&whole);
     return whole ? QVariant(integer) : QVariant(number);
 }
+
+} // namespace kuyum

@@ -7,6 +7,8 @@
 #include <string>
 #include <unordered_map>
 
+namespace kuyum {
+
 /// How a value of a legacy file is stored here. The sources are the bytes as
 /// they stand in the file.
 
@@ -44,3 +46,5 @@ private:
 /// The default value of a field that the legacy engine keeps as an expression.
 /// Invalid for one that is more than a plain value (such as Date()).
 QVariant defaultValueOf(FieldType type, QString expression);
+
+} // namespace kuyum

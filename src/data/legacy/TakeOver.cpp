@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 TakeOver::TakeOver(const QString &source, const QString &target, const QString &program)
     : m_source(QFileInfo(source).absoluteFilePath()),
       m_target(resolvedPlace(target)),
@@ -142,3 +144,5 @@ void TakeOver::runSteps()
     if (!copy.hasEnded() || !proof.hasEnded())
         throw DatabaseError(u"Aktarma yarıda kaldı: "_s + m_source);
 }
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 class QEventLoop;
 
+namespace kuyum {
+
 /// Takes a legacy database (.mdb) over into a new database file. The source is
 /// only read. The target appears in one rename, after its content was compared
 /// with a second reading of the source; until then, and after a failure, there
@@ -55,3 +57,5 @@ private:
     bool m_cancelled = false;
     QEventLoop *m_loop = nullptr; ///< runs while the steps do
 };
+
+} // namespace kuyum

@@ -13,6 +13,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// Which of the two descriptions the file is completed with.
@@ -167,3 +169,5 @@ void TakeOverSteps::copy(const QString &source, const QString &part, Reporter &r
     db->setSchemaVersion(currentSchemaVersion);
     transaction.commit();
 }
+
+} // namespace kuyum

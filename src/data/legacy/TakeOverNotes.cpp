@@ -12,9 +12,11 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
-/// The tables that every company of the former program has.
+/// The tables that every legacy company has.
 const QStringList &usualTables()
 {
     static const QStringList names = {u"XXX"_s,          u"Firma"_s,     u"Ulkeler"_s,
@@ -95,3 +97,5 @@ void TakeOverSteps::noteWhatIsMissing(Database &db)
     for (const Reference &reference : companyReferences())
         noteEmptyTarget(db, reference);
 }
+
+} // namespace kuyum

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// The line to the process that started this one. When that has ended, its end
@@ -72,3 +74,5 @@ std::optional<int> runTakeOverStep(int &argc, char **argv)
         return refuse(u"Dosya hasarlı: okunamıyor."_s);
     }
 }
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 RowChecksum checksumOfSource(LegacyFile &file, const LegacyTable &table,
@@ -96,3 +98,5 @@ void TakeOverSteps::prove(const QString &source, const QString &part, Reporter &
         compare(table, expected[i], checksumOfCopy(*db, table, reporter));
     }
 }
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 TakeOverStepProcess::TakeOverStepProcess(const QString &program, const QStringList &arguments,
                                          int stallLimit)
 {
@@ -96,3 +98,5 @@ void TakeOverStepProcess::end()
         m_failure = m_reason.isEmpty() ? u"Dosya hasarlı: okunamıyor."_s : m_reason;
     Q_EMIT ended();
 }
+
+} // namespace kuyum

@@ -3,6 +3,8 @@
 #include <QProcess>
 #include <QTimer>
 
+namespace kuyum {
+
 /// One step of a take-over in a process of its own, watched: it ends when it
 /// breaks, refuses, or makes no progress for too long.
 class TakeOverStepProcess : public QObject
@@ -40,3 +42,5 @@ private:
     bool m_stalled = false;
     bool m_ended = false;
 };
+
+} // namespace kuyum

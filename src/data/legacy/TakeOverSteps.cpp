@@ -2,6 +2,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 const QString &TakeOverSteps::copyWord()
 {
     static const QString word = u"aktar-oku"_s;
@@ -37,3 +39,5 @@ void TakeOverSteps::Reporter::waitForCopy()
     m_write("waiting");
     m_wait();
 }
+
+} // namespace kuyum

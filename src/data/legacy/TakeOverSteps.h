@@ -4,6 +4,8 @@
 #include <QByteArray>
 #include <QString>
 
+namespace kuyum {
+
 class Database;
 
 /// The two steps of a take-over, each run in a process of its own, since a
@@ -58,3 +60,5 @@ void noteWhatIsMissing(Database &db);
 void prove(const QString &source, const QString &part, Reporter &reporter);
 
 } // namespace TakeOverSteps
+
+} // namespace kuyum

@@ -20,6 +20,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 bool isPlainTyping(Qt::KeyboardModifiers modifiers)
@@ -384,3 +386,5 @@ LookupOpener lookupOpener(Oturum &oturum, Messages &messages)
         return answer;
     };
 }
+
+} // namespace kuyum

@@ -6,14 +6,16 @@
 #include <QDialog>
 #include <QTimer>
 
+namespace Ui {
+class Liste_Combo;
+}
+
+namespace kuyum {
+
 class LookupModel;
 struct LookupList;
 class Messages;
 struct Oturum;
-
-namespace Ui {
-class Liste_Combo;
-}
 
 /// The one pick-list of the program. Enter or a double click takes the
 /// highlighted row, Escape leaves without one. What is typed narrows the rows.
@@ -66,3 +68,5 @@ private:
 /// What the program hands to the screens that need a code picked. Both
 /// references must outlive it.
 LookupOpener lookupOpener(Oturum &oturum, Messages &messages);
+
+} // namespace kuyum

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 MalzemeDelegate::MalzemeDelegate(Messages &messages, QObject *parent)
     : QStyledItemDelegate(parent), m_messages(messages)
 {
@@ -96,3 +98,5 @@ bool MalzemeDelegate::eventFilter(QObject *watched, QEvent *event)
     return event->type() == QEvent::ShortcutOverride &&
            QStyledItemDelegate::eventFilter(watched, event);
 }
+
+} // namespace kuyum

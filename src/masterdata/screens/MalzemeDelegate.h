@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QStyledItemDelegate>
 
+namespace kuyum {
+
 class Messages;
 
 /// Makes the editors of the materials' grid, and tells the grid what keys and
@@ -47,3 +49,5 @@ private:
     mutable QPointer<QWidget> m_editor;
     mutable QPersistentModelIndex m_cell;
 };
+
+} // namespace kuyum

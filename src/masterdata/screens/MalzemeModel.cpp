@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 MalzemeModel::MalzemeModel(QObject *parent) : QAbstractTableModel(parent), m_rows({ModelSatiri()})
 {
 }
@@ -138,3 +140,5 @@ Qt::ItemFlags MalzemeModel::flags(const QModelIndex &cell) const
     const Qt::ItemFlags all = QAbstractTableModel::flags(cell);
     return cell.isValid() && cell.column() != idColumn ? all | Qt::ItemIsEditable : all;
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <QAbstractTableModel>
 
+namespace kuyum {
+
 struct Malzeme;
 
 /// The materials of a model as the grid shows them. It always has a row.
@@ -52,3 +54,5 @@ private:
 
     QList<ModelSatiri> m_rows;
 };
+
+} // namespace kuyum

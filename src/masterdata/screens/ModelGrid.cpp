@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 ModelGrid::ModelGrid(QWidget *parent) : QTableView(parent)
 {
     setEditTriggers(DoubleClicked | AnyKeyPressed);
@@ -206,3 +208,5 @@ void ModelGrid::spreadColumns()
     setColumnWidth(MalzemeModel::kodColumn, width - columnWidth(MalzemeModel::tipColumn) -
                                                 columnWidth(MalzemeModel::adetColumn));
 }
+
+} // namespace kuyum

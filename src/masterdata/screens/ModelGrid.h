@@ -5,6 +5,8 @@
 #include <functional>
 #include <QTableView>
 
+namespace kuyum {
+
 class MalzemeModel;
 class MalzemeDelegate;
 class Messages;
@@ -59,3 +61,5 @@ private:
     TakeCode m_take;
     bool m_taking = false;
 };
+
+} // namespace kuyum

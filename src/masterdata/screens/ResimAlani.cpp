@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 ResimAlani::ResimAlani(const Parts &parts, Messages &messages, QWidget *screen)
     : QObject(screen), m_parts(parts), m_messages(messages), m_screen(screen)
 {
@@ -85,3 +87,5 @@ void ResimAlani::ResimSil(const QString &code, const std::function<QString()> &p
     }
     ResimGoster(path());
 }
+
+} // namespace kuyum

@@ -4,9 +4,12 @@
 #include <QImage>
 #include <QObject>
 
+class QPushButton;
+
+namespace kuyum {
+
 class Messages;
 class PictureEntry;
-class QPushButton;
 
 /// Opens the camera; `Secilen` says for whom ("KALIP CEK", "MODEL CEK").
 /// Returns the frame that was taken, a null image for none.
@@ -52,3 +55,5 @@ private:
     Messages &m_messages;
     QWidget *m_screen;
 };
+
+} // namespace kuyum

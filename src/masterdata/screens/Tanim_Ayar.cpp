@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Tanim_Ayar::Tanim_Ayar(const ScreenContext &context, QWidget *parent)
     : TanimEkrani(context, parent),
       m_store(context.oturum),
@@ -79,3 +81,5 @@ bool Tanim_Ayar::removeRow()
 {
     return store([this](LoadedRows &loaded) { m_store.remove(Milyem(), loaded); });
 }
+
+} // namespace kuyum

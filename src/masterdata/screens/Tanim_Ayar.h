@@ -9,6 +9,8 @@ namespace Ui {
 class Tanim_Ayar;
 }
 
+namespace kuyum {
+
 /// Definition of the karats.
 class Tanim_Ayar : public TanimEkrani
 {
@@ -32,3 +34,5 @@ private:
     AyarStore m_store;
     std::unique_ptr<Ui::Tanim_Ayar> m_ui;
 };
+
+} // namespace kuyum

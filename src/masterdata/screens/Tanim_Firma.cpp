@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Tanim_Firma::Tanim_Firma(const ScreenContext &context, QWidget *parent)
     : TanimEkrani(context, parent),
       m_store(context.oturum),
@@ -160,3 +162,5 @@ void Tanim_Firma::addCountry()
     showCountries();
     ComboSecNo(*m_ui->Ulke, ID);
 }
+
+} // namespace kuyum

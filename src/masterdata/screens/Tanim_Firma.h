@@ -9,6 +9,8 @@ namespace Ui {
 class Tanim_Firma;
 }
 
+namespace kuyum {
+
 /// Definition of the customers. Insert on `Ulke` defines a country.
 class Tanim_Firma : public TanimEkrani
 {
@@ -40,3 +42,5 @@ private:
     QList<Ulke> m_ulkeler;
     std::unique_ptr<Ui::Tanim_Firma> m_ui;
 };
+
+} // namespace kuyum

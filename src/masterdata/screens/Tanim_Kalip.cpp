@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Tanim_Kalip::Tanim_Kalip(const ScreenContext &context, const CameraOpener &openCamera,
                          QWidget *parent)
     : TanimEkrani(context, parent),
@@ -114,3 +116,5 @@ void Tanim_Kalip::ResimSil()
 {
     m_picture->ResimSil(m_ui->KalipKodu->text().trimmed(), [this] { return picturePath(); });
 }
+
+} // namespace kuyum

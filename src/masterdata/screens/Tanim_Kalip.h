@@ -10,6 +10,8 @@ namespace Ui {
 class Tanim_Kalip;
 }
 
+namespace kuyum {
+
 /// Definition of the molds, with their pictures.
 class Tanim_Kalip : public TanimEkrani
 {
@@ -39,3 +41,5 @@ private:
     ResimAlani *m_picture = nullptr;
     QString m_storedDur; ///< also where it is none of the list's
 };
+
+} // namespace kuyum

@@ -20,6 +20,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Tanim_Model::Tanim_Model(const ScreenContext &context, LabelPrinter &labelPrinter,
                          const CameraOpener &openCamera, QWidget *parent)
     : TanimEkrani(context, parent),
@@ -369,3 +371,5 @@ void Tanim_Model::yazdir()
         warn(u"Satır Sayısı Geçiyor..."_s);
     context().viewer.show(this, sheet.document);
 }
+
+} // namespace kuyum

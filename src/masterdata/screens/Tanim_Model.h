@@ -8,11 +8,13 @@
 
 #include <memory>
 
-class MalzemeModel;
-
 namespace Ui {
 class Tanim_Model;
 }
+
+namespace kuyum {
+
+class MalzemeModel;
 
 /// Definition of the models: weight, materials, picture, label and sheet.
 class Tanim_Model : public TanimEkrani
@@ -70,3 +72,5 @@ private:
     int m_pixelsPerUnit = 2;     ///< of the symbol
     QList<ModelSatiri> m_opened; ///< the materials as they were opened
 };
+
+} // namespace kuyum

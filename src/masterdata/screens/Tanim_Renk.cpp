@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Tanim_Renk::Tanim_Renk(const ScreenContext &context, QWidget *parent)
     : TanimEkrani(context, parent),
       m_store(context.oturum),
@@ -69,3 +71,5 @@ bool Tanim_Renk::removeRow()
 {
     return store([this](LoadedRows &loaded) { m_store.remove(m_ui->RenkNo->text(), loaded); });
 }
+
+} // namespace kuyum

@@ -9,6 +9,8 @@ namespace Ui {
 class Tanim_Renk;
 }
 
+namespace kuyum {
+
 /// Definition of the colours.
 class Tanim_Renk : public TanimEkrani
 {
@@ -30,3 +32,5 @@ private:
     RenkStore m_store;
     std::unique_ptr<Ui::Tanim_Renk> m_ui;
 };
+
+} // namespace kuyum

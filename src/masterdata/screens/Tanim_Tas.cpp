@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Tanim_Tas::Tanim_Tas(const ScreenContext &context, QWidget *parent)
     : TanimEkrani(context, parent),
       m_store(context.oturum),
@@ -90,3 +92,5 @@ void Tanim_Tas::emptyForm()
     m_ui->TasBirimi->addItems(m_currencies);
     ComboSec(*m_ui->TasBirimi, u"USD"_s);
 }
+
+} // namespace kuyum

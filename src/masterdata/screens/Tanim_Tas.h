@@ -9,6 +9,8 @@ namespace Ui {
 class Tanim_Tas;
 }
 
+namespace kuyum {
+
 /// Definition of the stones.
 class Tanim_Tas : public TanimEkrani
 {
@@ -33,3 +35,5 @@ private:
     QStringList m_currencies;
     std::unique_ptr<Ui::Tanim_Tas> m_ui;
 };
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Tanim_Uruntipi::Tanim_Uruntipi(const ScreenContext &context, QWidget *parent)
     : TanimEkrani(context, parent),
       m_store(context.oturum),
@@ -97,3 +99,5 @@ bool Tanim_Uruntipi::removeRow()
 {
     return store([this](LoadedRows &loaded) { m_store.remove(TipID(), loaded); });
 }
+
+} // namespace kuyum

@@ -9,6 +9,8 @@ namespace Ui {
 class Tanim_Uruntipi;
 }
 
+namespace kuyum {
+
 /// Definition of the product types. Without a number, Enter begins a new one.
 class Tanim_Uruntipi : public TanimEkrani
 {
@@ -33,3 +35,5 @@ private:
     UrunTipiStore m_store;
     std::unique_ptr<Ui::Tanim_Uruntipi> m_ui;
 };
+
+} // namespace kuyum

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 constexpr Twips colourEditorExtra = 300_tw;
 constexpr int noLimit = 32767;
 
@@ -136,3 +138,5 @@ void CellEditors::chooseColour(const QString &text)
     if (!text.isEmpty())
         m_colourTyped = chooseTyped(*cmbTas, m_colourTyped, text);
 }
+
+} // namespace kuyum

@@ -8,6 +8,8 @@ class QKeyEvent;
 class QLineEdit;
 class QTableView;
 
+namespace kuyum {
+
 /// The order grid's two cell editors: txtTas for texts and quantities, cmbTas
 /// for colours. They stand over the cell they edit.
 class CellEditors : public QObject
@@ -64,3 +66,5 @@ private:
     Kind m_kind = Kind::Text;
     QString m_colourTyped;
 };
+
+} // namespace kuyum

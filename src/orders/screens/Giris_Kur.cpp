@@ -16,6 +16,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Giris_Kur::Giris_Kur(const ScreenContext &context, QSettings &settings, QWidget *parent)
     : QDialog(parent),
       m_context(context),
@@ -254,3 +256,5 @@ QString Giris_Kur::buyingRatesKey() const
 {
     return u"kur/alis/%1"_s.arg(m_context.oturum.SirketKodu);
 }
+
+} // namespace kuyum

@@ -6,13 +6,15 @@
 #include <memory>
 #include <QDialog>
 
-class KurModel;
 class QSettings;
-class SavedLine;
-
 namespace Ui {
 class Giris_Kur;
 }
+
+namespace kuyum {
+
+class KurModel;
+class SavedLine;
 
 /// The exchange rates of a date. In date entry only the date and the list
 /// live; in rate entry the date's rates stand in the grid.
@@ -66,3 +68,5 @@ private:
     QDate m_date;              ///< whose rates stand in the grid
     QList<KurSatiri> m_opened; ///< the rates as they were shown
 };
+
+} // namespace kuyum

@@ -17,6 +17,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Giris_Siparis::Giris_Siparis(const ScreenContext &context, QSettings &settings,
                              OrderReports reports, QWidget *parent)
     : QDialog(parent, Qt::Window),
@@ -277,3 +279,5 @@ void Giris_Siparis::reject()
     if (mayLeave())
         QDialog::reject();
 }
+
+} // namespace kuyum

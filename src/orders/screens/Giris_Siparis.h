@@ -10,14 +10,16 @@
 #include <memory>
 #include <QDialog>
 
-class ModelEntry;
 class QSettings;
-class SavedLine;
-class SiparisModel;
-
 namespace Ui {
 class Giris_Siparis;
 }
+
+namespace kuyum {
+
+class ModelEntry;
+class SavedLine;
+class SiparisModel;
 
 /// Opens a report on a stored order, whose number is the answer `SecilenNo` of
 /// the screen; handed in by the program. `degisti`: the screen shows changes
@@ -129,3 +131,5 @@ private:
     LoadedRows m_loaded;         ///< the order as it stood when it was opened
     QList<KeptLine> m_keptLines; ///< of the order, without those of its rows
 };
+
+} // namespace kuyum

@@ -15,6 +15,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// The order entry screen: finding orders, customers and pictures.
 
 /// A number that was typed, or a slip's bar code.
@@ -235,3 +237,5 @@ void Giris_Siparis::showWarning(const QString &text)
     m_ui->warningLine->setText(text);
     m_ui->warningLine->setVisible(!text.isEmpty());
 }
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// The order entry screen: the slip and how the user wants it, and the reports.
 
 namespace {
@@ -113,3 +115,5 @@ void Giris_Siparis::openReport(const OrderReportOpener &report)
     else
         showWarning(u"Sipariş kaydedildikten sonra raporu alınabilir."_s);
 }
+
+} // namespace kuyum

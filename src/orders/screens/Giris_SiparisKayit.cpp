@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// The order entry screen: checking, saving and removing an order.
 
 Siparis Giris_Siparis::collect() const
@@ -208,3 +210,5 @@ void Giris_Siparis::removeOrder()
     else if (end == SaveEnd::Theirs)
         takeStored();
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 void KurModel::setAlisKurlari(AlisKurlari alis)
 {
     if (alis == m_alis)
@@ -112,3 +114,5 @@ Qt::ItemFlags KurModel::flags(const QModelIndex &cell) const
     const bool rate = cell.isValid() && cell.column() != currencyColumn;
     return rate ? all | Qt::ItemIsEditable : all;
 }
+
+} // namespace kuyum

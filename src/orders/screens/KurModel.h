@@ -5,6 +5,8 @@
 #include <QAbstractTableModel>
 #include <QList>
 
+namespace kuyum {
+
 /// The rate grid as data: currency, selling rate and, where they are kept,
 /// buying rate. The buying rates of the rows last also while they are hidden.
 class KurModel : public QAbstractTableModel
@@ -42,3 +44,5 @@ private:
     AlisKurlari m_alis = AlisKurlari::Yok;
     QList<KurSatiri> m_rows;
 };
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 
 #include <QKeyEvent>
 
+namespace kuyum {
+
 /// Scanners take 1 to 30 ms from key to key, people rarely less than 60, and
 /// never for a dozen keys.
 static constexpr quint64 longestGapMs = 45;
@@ -33,3 +35,5 @@ std::optional<LabelScan::Label> LabelScan::take(const QKeyEvent &key,
     m_digits.clear();
     return label;
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 
 class QKeyEvent;
 
+namespace kuyum {
+
 /// Knows a scanned label among the keys by their speed: its digits follow one
 /// another faster than a person types. What stood in the cell's editor before
 /// its first digit is remembered, because only the last one tells a label.
@@ -32,3 +34,5 @@ private:
 
     QList<Digit> m_digits; ///< in quick succession; as many as a label has
 };
+
+} // namespace kuyum

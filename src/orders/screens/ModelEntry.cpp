@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 ModelEntry::ModelEntry(const ScreenContext &context, SiparisGrid *grid, SiparisModel *model)
     : QObject(grid), m_context(context), m_lookups(context.oturum), m_grid(grid), m_model(model)
 {
@@ -118,3 +120,5 @@ void ModelEntry::warn(const QString &text)
         lines.append(u"Bulunamayanlar: "_s + m_notFound.join(u", "_s));
     Q_EMIT warning(lines.join(u'\n'));
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 #include "ScreenContext.h"
 #include "SiparisGrid.h"
 
+namespace kuyum {
+
 class SiparisModel;
 
 /// Takes what is entered as a row's model: a code, a scanned label or a choice
@@ -44,3 +46,5 @@ private:
     QStringList m_notFound; ///< labels and models that scans went past
     bool m_quickEntry = false;
 };
+
+} // namespace kuyum

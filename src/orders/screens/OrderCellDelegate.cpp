@@ -3,6 +3,8 @@
 #include <QAbstractItemView>
 #include <QPainter>
 
+namespace kuyum {
+
 void OrderCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                               const QModelIndex &index) const
 {
@@ -34,3 +36,5 @@ void OrderCellDelegate::initStyleOption(QStyleOptionViewItem *option,
     option->backgroundBrush = QBrush();
     option->palette = option->widget->palette();
 }
+
+} // namespace kuyum

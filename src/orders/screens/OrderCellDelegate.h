@@ -2,6 +2,8 @@
 
 #include "EditorDelegate.h"
 
+namespace kuyum {
+
 /// Paints a cell of the order's grid. The current cell is framed, not filled:
 /// yellow and white mean something and must stay visible under the cursor.
 class OrderCellDelegate : public EditorDelegate
@@ -17,3 +19,5 @@ public:
 protected:
     void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override;
 };
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// Before the point as many digits as a number keeps, or it would be shown as
 /// another one than was typed.
 static constexpr QStringView rateText = u"[0-9]{0,15}([.,][0-9.,]*)?";
@@ -52,3 +54,5 @@ bool RateDelegate::eventFilter(QObject *watched, QEvent *event)
         return OrderCellDelegate::eventFilter(watched, event);
     }
 }
+
+} // namespace kuyum

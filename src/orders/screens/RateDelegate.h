@@ -2,6 +2,8 @@
 
 #include "OrderCellDelegate.h"
 
+namespace kuyum {
+
 class Messages;
 
 /// Edits a rate in place. The keys that leave the editor are the grid's matter.
@@ -25,3 +27,5 @@ protected:
 private:
     Messages &m_messages;
 };
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 
+namespace kuyum {
+
 /// The currencies stand in a fixed column, which the cursor does not enter.
 static QModelIndex besideFixed(const QModelIndex &cell)
 {
@@ -136,3 +138,5 @@ void RateGrid::goToCell(int place)
     else
         Q_EMIT finished();
 }
+
+} // namespace kuyum

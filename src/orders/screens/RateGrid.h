@@ -2,6 +2,8 @@
 
 #include <QTableView>
 
+namespace kuyum {
+
 class Messages;
 
 /// The grid in which rates are typed. Typing, Enter, F2 or a click opens the
@@ -40,3 +42,5 @@ private:
     void goDown();
     void goToCell(int place);
 };
+
+} // namespace kuyum

@@ -11,6 +11,8 @@
 #include <QKeyEvent>
 #include <QScrollBar>
 
+namespace kuyum {
+
 namespace {
 
 constexpr int quantityDigits = 9; // what a whole number field always holds
@@ -289,3 +291,5 @@ void SiparisGrid::goToNextRow(int row)
         m_model->addRow();
     goTo(row + 1, SiparisModel::modelColumn);
 }
+
+} // namespace kuyum

@@ -6,6 +6,8 @@
 #include <optional>
 #include <QTableView>
 
+namespace kuyum {
+
 class SiparisModel;
 
 /// What became of a text entered as a model.
@@ -90,3 +92,5 @@ private:
     bool m_taking = false;
     std::optional<quint64> m_labelTime; ///< of the key before this one, when it ended a label
 };
+
+} // namespace kuyum

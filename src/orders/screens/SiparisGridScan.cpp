@@ -5,6 +5,8 @@
 
 #include <QKeyEvent>
 
+namespace kuyum {
+
 /// The order's grid: labels from a barcode scanner in quick entry.
 
 /// Within this time after a label an Enter is the scanner's, not the user's.
@@ -71,3 +73,5 @@ bool SiparisGrid::isScannerEnter(const QKeyEvent *event)
     const std::optional<quint64> label = std::exchange(m_labelTime, std::nullopt);
     return label && isEnter(*event) && event->timestamp() - *label < scannerEnterMs;
 }
+
+} // namespace kuyum

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 const QColor yellow(255, 255, 0);
@@ -205,3 +207,5 @@ void SiparisModel::rowChanged(int row)
 {
     Q_EMIT dataChanged(index(row, 0), index(row, columnCount() - 1));
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <QAbstractTableModel>
 
+namespace kuyum {
+
 /// The order's grid as data: model, colour, a column per product type, note
 /// and the production columns. Column positions are told by the functions
 /// here; those behind the quantities are counted from the right.
@@ -58,3 +60,5 @@ private:
     QList<UrunTipi> m_types;
     QList<SiparisSatiri> m_rows;
 };
+
+} // namespace kuyum

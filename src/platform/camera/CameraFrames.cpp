@@ -18,6 +18,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int millisecondsPerFrame = 50;
@@ -124,3 +126,5 @@ std::unique_ptr<FrameSource> openCamera(int index)
         return nullptr;
     return std::make_unique<CameraFrames>(devices[index]);
 }
+
+} // namespace kuyum

@@ -22,6 +22,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 KontrolSekmesi::KontrolSekmesi(const ScreenContext &context, QWidget *parent)
     : QWidget(parent),
       m_context(context),
@@ -292,3 +294,5 @@ void KontrolSekmesi::clearTab()
     setOpen(false);
     m_ui->Sipnum->setFocus();
 }
+
+} // namespace kuyum

@@ -7,13 +7,15 @@
 #include <QTimer>
 #include <QWidget>
 
-class SavedLine;
-class TakipModel;
-struct OrderNumberEntry;
-
 namespace Ui {
 class KontrolSekmesi;
 }
+
+namespace kuyum {
+
+class SavedLine;
+class TakipModel;
+struct OrderNumberEntry;
 
 /// The tab "SIPARIS KONTROL": one order, whose lines get their statuses and
 /// dates. It is empty until an order is opened.
@@ -58,3 +60,5 @@ private:
     qint32 m_Sipnum = 0; ///< the order on the tab; 0: none
     QTimer m_modelTimer; ///< a held arrow key passes lines without showing each
 };
+
+} // namespace kuyum

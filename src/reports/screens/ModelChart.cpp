@@ -21,6 +21,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr QSize pictureDots(1800, 1260);
@@ -298,3 +300,5 @@ PrintDocument ModelChart::document() const
                      picture(pictureDots));
     return document;
 }
+
+} // namespace kuyum

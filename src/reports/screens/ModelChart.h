@@ -9,6 +9,8 @@ class QChart;
 class QChartView;
 class QLabel;
 
+namespace kuyum {
+
 /// The first models of the model report as bars, longest on top, each in the
 /// parts that its columns split it into.
 class ModelChart : public QWidget
@@ -43,3 +45,5 @@ private:
     QChartView *m_view;
     QLabel *m_legend;
 };
+
+} // namespace kuyum

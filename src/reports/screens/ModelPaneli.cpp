@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 constexpr int leastGridHeight = 40;
 
 ModelPaneli::ModelPaneli(QWidget *parent)
@@ -39,3 +41,5 @@ void ModelPaneli::goster(const QString &model, const QString &KisaAD)
     m_ui->Taslar->setTable(
         malzemeTable(u"TAŞ"_s, any ? store.taslar(model) : QList<UretimMalzemesi>()));
 }
+
+} // namespace kuyum

@@ -3,11 +3,13 @@
 #include <memory>
 #include <QWidget>
 
-struct Oturum;
-
 namespace Ui {
 class ModelPaneli;
 }
+
+namespace kuyum {
+
+struct Oturum;
 
 /// A model beside the lines that it stands in: its picture, its product type,
 /// its molds and its stones.
@@ -27,3 +29,5 @@ private:
     Oturum *m_oturum = nullptr;
     std::unique_ptr<Ui::ModelPaneli> m_ui;
 };
+
+} // namespace kuyum

@@ -2,6 +2,8 @@
 
 #include "ScreenContext.h"
 
+namespace kuyum {
+
 class ExcelAktar;
 
 /// What the report screens work with, beyond what the other screens do.
@@ -9,3 +11,5 @@ struct RaporContext : ScreenContext
 {
     const ExcelAktar &excel;
 };
+
+} // namespace kuyum

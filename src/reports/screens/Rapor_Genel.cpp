@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int reportTab = 1;
@@ -76,3 +78,5 @@ void Rapor_Genel::reject()
             QDialog::reject();
     });
 }
+
+} // namespace kuyum

@@ -5,12 +5,14 @@
 #include <memory>
 #include <QDialog>
 
-class KontrolSekmesi;
-class UretimSekmesi;
-
 namespace Ui {
 class Rapor_Genel;
 }
+
+namespace kuyum {
+
+class KontrolSekmesi;
+class UretimSekmesi;
 
 /// Production tracking: order control and production report. `RaporTuru` says
 /// on which of its tabs it opens.
@@ -33,3 +35,5 @@ private:
     KontrolSekmesi *m_kontrol;
     UretimSekmesi *m_uretim;
 };
+
+} // namespace kuyum

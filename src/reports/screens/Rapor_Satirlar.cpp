@@ -7,6 +7,8 @@
 
 #include <QScreen>
 
+namespace kuyum {
+
 Rapor_Satirlar::Rapor_Satirlar(const RaporContext &context, const ReportTable &table,
                                QWidget *parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::Rapor_Satirlar>())
@@ -42,3 +44,5 @@ void showOrderLines(const RaporContext &context, QWidget *parent, const ReportTa
 {
     Rapor_Satirlar(context, table, parent).exec();
 }
+
+} // namespace kuyum

@@ -10,6 +10,8 @@ namespace Ui {
 class Rapor_Satirlar;
 }
 
+namespace kuyum {
+
 /// The order lines behind a figure of a report, with their sum, which is the
 /// figure.
 class Rapor_Satirlar : public QDialog
@@ -30,3 +32,5 @@ private:
 
 /// Shows them modally.
 void showOrderLines(const RaporContext &context, QWidget *parent, const ReportTable &table);
+
+} // namespace kuyum

@@ -21,6 +21,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 enum SekmeYeri { tasSekmesi, kalipSekmesi, modelSekmesi };
@@ -353,3 +355,5 @@ void Rapor_Siparis::printChart()
 {
     m_context.viewer.show(this, m_ui->grafik->document());
 }
+
+} // namespace kuyum

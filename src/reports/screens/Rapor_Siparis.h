@@ -8,16 +8,18 @@
 #include <memory>
 #include <QDialog>
 
-class DateBox;
-class ExcelKutusu;
 class QComboBox;
 class QLabel;
 class QPushButton;
-class RaporGrid;
-
 namespace Ui {
 class Rapor_Siparis;
 }
+
+namespace kuyum {
+
+class DateBox;
+class ExcelKutusu;
+class RaporGrid;
 
 /// The order reports of a range of dates: stones, molds and models, a tab each.
 class Rapor_Siparis : public QDialog
@@ -70,3 +72,5 @@ private:
     std::array<Sekme, 3> m_sekmeler;
     bool m_lowScreen = false; ///< filters and chart take turns with the rows
 };
+
+} // namespace kuyum

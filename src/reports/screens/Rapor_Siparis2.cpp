@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Rapor_Siparis2::Rapor_Siparis2(const RaporContext &context, qint32 SecilenNo, QWidget *parent)
     : QDialog(parent), m_context(context), m_ui(std::make_unique<Ui::Rapor_Siparis2>())
 {
@@ -84,3 +86,5 @@ void Rapor_Siparis2::print()
 {
     m_context.viewer.show(this, stonePages(*m_siparis, m_ui->Rapor->table()));
 }
+
+} // namespace kuyum

@@ -10,6 +10,8 @@ namespace Ui {
 class Rapor_Siparis2;
 }
 
+namespace kuyum {
+
 /// The stones of one order with their weight, cost and margin.
 class Rapor_Siparis2 : public QDialog
 {
@@ -35,3 +37,5 @@ private:
     std::optional<SiparisBasligi> m_siparis; ///< nothing: there is no such order
     std::unique_ptr<SiparisTaslari> m_taslar;
 };
+
+} // namespace kuyum

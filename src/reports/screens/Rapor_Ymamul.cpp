@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Rapor_Ymamul::Rapor_Ymamul(const RaporContext &context, qint32 SecilenNo, QWidget *parent)
     : QDialog(parent), m_context(context), m_ui(std::make_unique<Ui::Rapor_Ymamul>())
 {
@@ -80,3 +82,5 @@ void Rapor_Ymamul::print()
     m_context.viewer.show(this,
                           foundryPages(*m_siparis, m_ui->Rapor1->table(), m_ui->Rapor->table()));
 }
+
+} // namespace kuyum

@@ -10,6 +10,8 @@ namespace Ui {
 class Rapor_Ymamul;
 }
 
+namespace kuyum {
+
 /// What one order needs of the foundry: its models with their gold, and the
 /// molds.
 class Rapor_Ymamul : public QDialog
@@ -34,3 +36,5 @@ private:
     std::optional<SiparisBasligi> m_siparis; ///< nothing: there is no such order
     std::unique_ptr<SiparisYariMamul> m_rapor;
 };
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr int karatColumn = 3;
@@ -65,3 +67,5 @@ QVariant SecimModeli::headerData(int section, Qt::Orientation orientation, int r
         return headings.value(section);
     return QIdentityProxyModel::headerData(section, orientation, role);
 }
+
+} // namespace kuyum

@@ -5,6 +5,8 @@
 #include <map>
 #include <QIdentityProxyModel>
 
+namespace kuyum {
+
 class LookupModel;
 
 /// The order list of the production report with the orders marked red that the
@@ -48,3 +50,5 @@ private:
     LookupModel &m_siparisler;
     std::map<Place, double> m_secim; ///< the karat of each
 };
+
+} // namespace kuyum

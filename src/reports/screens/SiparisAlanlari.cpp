@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 SiparisAlanlari::SiparisAlanlari(QWidget *parent) : QFrame(parent)
 {
     auto *layout = new QVBoxLayout(this);
@@ -78,3 +80,5 @@ void makeNote(QLabel &note)
     note.setWordWrap(true);
     note.hide();
 }
+
+} // namespace kuyum

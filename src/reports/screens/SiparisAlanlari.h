@@ -7,6 +7,8 @@
 class QHBoxLayout;
 class QLabel;
 
+namespace kuyum {
+
 /// The order that a report is of, above its figures: date, number, karat and
 /// customer.
 class SiparisAlanlari : public QFrame
@@ -36,3 +38,5 @@ private:
 
 /// Sets a note in the colour of what must not be overlooked.
 void makeNote(QLabel &note);
+
+} // namespace kuyum

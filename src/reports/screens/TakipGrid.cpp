@@ -19,6 +19,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr Twips widths[TakipModel::Columns] = {1800_tw, 1000_tw, 1000_tw, 3200_tw, 1400_tw,
@@ -350,3 +352,5 @@ bool TakipGrid::editorKey(QKeyEvent *event)
     dropDown(event->text());
     return true;
 }
+
+} // namespace kuyum

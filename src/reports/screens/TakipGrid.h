@@ -5,10 +5,13 @@
 #include <QStringList>
 #include <QTableView>
 
+class QComboBox;
+
+namespace kuyum {
+
 class ChoiceBox;
 class DateBox;
 class Messages;
-class QComboBox;
 class TakipModel;
 
 /// What an order control grid's user may do, and what is offered to him.
@@ -74,3 +77,5 @@ private:
     QPersistentModelIndex m_cell; ///< that it stands over
     bool m_buttonDown = false;    ///< since the double click that opened the editor
 };
+
+} // namespace kuyum

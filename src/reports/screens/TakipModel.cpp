@@ -7,6 +7,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 struct ColumnLook
@@ -180,3 +182,5 @@ void TakipModel::sort(int column, Qt::SortOrder order)
     changePersistentIndexList(places, moved);
     Q_EMIT layoutChanged();
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <QAbstractTableModel>
 
+namespace kuyum {
+
 /// The lines of the order control grid `Rapor1`, with what the user has set of
 /// their statuses and dates.
 class TakipModel : public QAbstractTableModel
@@ -41,3 +43,5 @@ private:
     QList<TakipSatiri> m_rows;
     QList<TakipSatiri> m_opened; ///< as they were filled in
 };
+
+} // namespace kuyum

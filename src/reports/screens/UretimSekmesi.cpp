@@ -23,6 +23,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr Twips widths[SecimModeli::shownColumns] = {1400_tw, 1200_tw, 2200_tw, 900_tw};
@@ -352,3 +354,5 @@ void UretimSekmesi::showSheet()
     m_context.viewer.show(this, *rapor);
     m_printed = markedOrders();
 }
+
+} // namespace kuyum

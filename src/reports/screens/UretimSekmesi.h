@@ -8,12 +8,14 @@
 #include <QTimer>
 #include <QWidget>
 
-class LookupModel;
-class SecimModeli;
-
 namespace Ui {
 class UretimSekmesi;
 }
+
+namespace kuyum {
+
+class LookupModel;
+class SecimModeli;
 
 /// The tab "URETIM RAPORU": the list of all orders, what is to be made of the
 /// current one, and the production sheet of those marked.
@@ -64,3 +66,5 @@ private:
     QTimer m_orderTimer;     ///< a held arrow key passes orders without reading each
     QTimer m_modelTimer;
 };
+
+} // namespace kuyum

@@ -18,6 +18,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// The menu numbers whose screens are named after what they do.
@@ -210,3 +212,5 @@ void AnaMenu::keyPressEvent(QKeyEvent *event)
     }
     QMainWindow::keyPressEvent(event);
 }
+
+} // namespace kuyum

@@ -4,15 +4,17 @@
 
 #include <QMainWindow>
 
-class MenuPanel;
-class Messages;
 class QLabel;
 class QPushButton;
-struct Oturum;
-
 namespace Ui {
 class AnaMenu;
 }
+
+namespace kuyum {
+
+class MenuPanel;
+class Messages;
+struct Oturum;
 
 /// The main menu: the buttons of the items the user may use, the fixed buttons
 /// beside them, and every screen on top of it. It lives from the login to the
@@ -50,3 +52,5 @@ private:
     QList<QPushButton *> m_fixedButtons;
     QLabel *m_DataYolu;
 };
+
+} // namespace kuyum

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 bool isBackedUpToday(const QString &database)
@@ -58,3 +60,5 @@ bool backUpDaily(Oturum &oturum, Messages &messages)
     }
     return oturum.Veritabani != nullptr;
 }
+
+} // namespace kuyum

@@ -1,5 +1,7 @@
 #pragma once
 
+namespace kuyum {
+
 class Messages;
 struct Oturum;
 
@@ -8,3 +10,5 @@ struct Oturum;
 /// working; a database that turns out damaged is offered to be replaced by its
 /// newest good backup. False when no database is open any more.
 bool backUpDaily(Oturum &oturum, Messages &messages);
+
+} // namespace kuyum

@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 constexpr auto title = u"Veri tabanı açılamıyor";
@@ -76,3 +78,5 @@ bool restoreFromBackup(QWidget *parent, Messages &messages, const QString &datab
                  MessageIcon::Information, u"Geri yükleme"_s);
     return true;
 }
+
+} // namespace kuyum

@@ -3,8 +3,11 @@
 #include <optional>
 #include <QString>
 
-class Messages;
 class QWidget;
+
+namespace kuyum {
+
+class Messages;
 
 /// The way back when a company's database is damaged or gone.
 
@@ -19,3 +22,5 @@ std::optional<QString> offerBackup(QWidget *parent, Messages &messages, const QS
 /// was restored; the user was told why.
 bool restoreFromBackup(QWidget *parent, Messages &messages, const QString &database,
                        const QString &backup);
+
+} // namespace kuyum

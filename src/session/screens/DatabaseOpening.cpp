@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 std::unique_ptr<Database> openTakenOver(QWidget *parent, Messages &messages, const QString &path,
                                         DatabaseOpener open)
 {
@@ -41,3 +43,5 @@ std::unique_ptr<Database> openTakenOver(QWidget *parent, Messages &messages, con
     }
     return db;
 }
+
+} // namespace kuyum

@@ -4,8 +4,11 @@
 
 #include <memory>
 
-class Messages;
 class QWidget;
+
+namespace kuyum {
+
+class Messages;
 
 /// openCompany or openRegistry.
 using DatabaseOpener = std::unique_ptr<Database> (*)(const QString &path);
@@ -17,3 +20,5 @@ using DatabaseOpener = std::unique_ptr<Database> (*)(const QString &path);
 /// DatabaseError.
 std::unique_ptr<Database> openTakenOver(QWidget *parent, Messages &messages, const QString &path,
                                         DatabaseOpener open);
+
+} // namespace kuyum

@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static constexpr int buttonCount = 20;
 static constexpr int rowsPerColumn = 7;
 /// Digits that follow one another faster than this are one number.
@@ -189,3 +191,5 @@ bool MenuPanel::eventFilter(QObject *watched, QEvent *event)
         return true;
     return QWidget::eventFilter(watched, event);
 }
+
+} // namespace kuyum

@@ -8,6 +8,8 @@
 
 class QGridLayout;
 
+namespace kuyum {
+
 /// Gives the focus to the first enabled button.
 void focusFirst(const QList<QPushButton *> &buttons);
 /// Gives the focus to the next enabled button, going from one of the list on in
@@ -28,7 +30,7 @@ public:
     /// Shows the items' buttons; an item without a button is passed over.
     void showItems(const QList<MenuOgesi> &items);
     bool isEmpty() const { return m_shown.isEmpty(); }
-    void focusFirst() { ::focusFirst(m_shown); }
+    void focusFirst() { kuyum::focusFirst(m_shown); }
     /// A digit that was typed anywhere in the menu. Quick ones are one number,
     /// whose button gets the focus; without one no button keeps it.
     void typeDigit(QChar digit);
@@ -55,3 +57,5 @@ private:
     QString m_typed;
     QElapsedTimer m_sinceDigit;
 };
+
+} // namespace kuyum

@@ -15,10 +15,13 @@
 #include "ui_Pass_Form.h"
 #include "UsersStore.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QKeyEvent>
 
 using namespace Qt::StringLiterals;
+
+namespace kuyum {
 
 Pass_Form::Pass_Form(Oturum &oturum, Messages &messages, QWidget *parent)
     : QDialog(parent),
@@ -49,7 +52,7 @@ void Pass_Form::paintBand()
     QPalette gold = band;
     gold.setColor(QPalette::WindowText, QColor(0xf0, 0xcc, 0x6a));
     m_ui->productName->setPalette(gold);
-    m_ui->version->setText(u"Sürüm "_s + QStringLiteral(KUYUM_VERSION));
+    m_ui->version->setText(u"Sürüm "_s + QCoreApplication::applicationVersion());
 }
 
 void Pass_Form::connectControls()
@@ -226,3 +229,5 @@ void Pass_Form::logIn(const QString &name, qint32 number)
     m_oturum.CalismaTarihi = entered.isValid() ? entered : QDate::currentDate();
     accept();
 }
+
+} // namespace kuyum

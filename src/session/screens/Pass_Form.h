@@ -5,13 +5,15 @@
 #include <memory>
 #include <QDialog>
 
-class Messages;
-struct Oturum;
-struct Sirket;
-
 namespace Ui {
 class Pass_Form;
 }
+
+namespace kuyum {
+
+class Messages;
+struct Oturum;
+struct Sirket;
 
 /// The login: company, user, working date and password. What was chosen goes
 /// into the Oturum; GirisTamam tells whether the password was accepted.
@@ -48,3 +50,5 @@ private:
     std::unique_ptr<Ui::Pass_Form> m_ui;
     std::unique_ptr<Database> m_registry;
 };
+
+} // namespace kuyum

@@ -12,6 +12,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// Whether there is a registry, as it was named or in the form it was taken
 /// over into.
 static bool registryExists(const QString &path)
@@ -55,3 +57,5 @@ std::unique_ptr<AnaMenu> startUp(const StartUp &start, bool otherCopyRuns)
     menu->load(start.programFolder);
     return menu;
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <QString>
 
+namespace kuyum {
+
 class AnaMenu;
 class Messages;
 struct Oturum;
@@ -21,3 +23,5 @@ struct StartUp
 /// main menu, not yet shown. Null when the program has
 /// to end: another copy runs, there is no registry, or nobody logged in.
 std::unique_ptr<AnaMenu> startUp(const StartUp &start, bool otherCopyRuns);
+
+} // namespace kuyum

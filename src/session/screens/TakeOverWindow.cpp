@@ -10,6 +10,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 TakeOverWindow::TakeOverWindow(TakeOver &takeOver, QWidget *parent)
     : QDialog(parent),
       m_takeOver(takeOver),
@@ -54,3 +56,5 @@ void TakeOverWindow::showProgress(int permille, const QString &table)
     if (!table.isEmpty())
         m_table->setText(table);
 }
+
+} // namespace kuyum

@@ -4,6 +4,9 @@
 
 class QLabel;
 class QProgressBar;
+
+namespace kuyum {
+
 class TakeOver;
 
 /// Shows how far the take-over of a legacy file is, and can stop it.
@@ -24,3 +27,5 @@ private:
     QLabel *m_table;
     QProgressBar *m_bar;
 };
+
+} // namespace kuyum

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Tanim_User::Tanim_User(const ScreenContext &context, QWidget *parent)
     : TanimEkrani(context, parent),
       m_store(context.oturum),
@@ -245,3 +247,5 @@ bool Tanim_User::removeRow()
     m_done = m_user.User_Name + u" silindi."_s;
     return true;
 }
+
+} // namespace kuyum

@@ -10,6 +10,8 @@ namespace Ui {
 class Tanim_User;
 }
 
+namespace kuyum {
+
 /// The users: their passwords, and which menu items each may use.
 ///
 /// An ordinary user opens his own record only, and gives no right that he does
@@ -62,3 +64,5 @@ private:
     Entry m_shown;    ///< as it was before the user changed it
     QString m_done;   ///< to be told when the form is empty again
 };
+
+} // namespace kuyum

@@ -11,6 +11,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 enum Column { No, MenuTanimi };
@@ -106,3 +108,5 @@ void YetkiGrid::mouseDoubleClickEvent(QMouseEvent *event)
     setCurrentIndex(cell);
     Q_EMIT toggleAsked();
 }
+
+} // namespace kuyum

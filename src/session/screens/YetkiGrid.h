@@ -6,6 +6,8 @@
 
 class QStandardItemModel;
 
+namespace kuyum {
+
 /// All menu items, those that a user may use marked red and bold. A double
 /// click or the space bar asks to turn the row's mark over.
 class YetkiGrid : public QTableView
@@ -36,3 +38,5 @@ private:
 
     QStandardItemModel *m_model;
 };
+
+} // namespace kuyum

@@ -19,6 +19,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 AyarSekmesi::AyarSekmesi(const ScreenContext &context, const ParametreServices &services,
                          QWidget *parent)
     : QWidget(parent),
@@ -359,3 +361,5 @@ bool AyarSekmesi::eventFilter(QObject *watched, QEvent *event)
     }
     return QWidget::eventFilter(watched, event);
 }
+
+} // namespace kuyum

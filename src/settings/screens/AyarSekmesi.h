@@ -8,10 +8,11 @@
 #include <QWidget>
 
 class QLineEdit;
-
 namespace Ui {
 class AyarSekmesi;
 }
+
+namespace kuyum {
 
 /// The tab of the settings proper: the company's paths, its label printer,
 /// fixed karat and scale. What is not stored anywhere cannot be typed either,
@@ -72,3 +73,5 @@ private:
     std::optional<Sirket> m_sirket;   ///< as stored; nothing when it is not in the registry
     std::optional<Ayarlar> m_ayarlar; ///< as stored; nothing when there is no row
 };
+
+} // namespace kuyum

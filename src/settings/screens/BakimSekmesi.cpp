@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 static ReportTable fieldList(const QList<AlanSatiri> &alanlar)
 {
     ReportTable list;
@@ -72,3 +74,5 @@ void BakimSekmesi::showFields(const QString &table)
     m_ui->AlanlarLabel->setText(table + u" tablosunun a&lanları"_s);
     m_ui->Alanlar->setTable(fieldList(alanlar(m_context.oturum.Veritabani->tableDef(table))));
 }
+
+} // namespace kuyum

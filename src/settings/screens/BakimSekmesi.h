@@ -9,6 +9,8 @@ namespace Ui {
 class BakimSekmesi;
 }
 
+namespace kuyum {
+
 /// The tab that repairs all tables and lists the fields of the one at work.
 class BakimSekmesi : public QWidget
 {
@@ -31,3 +33,5 @@ private:
     ScreenContext m_context;
     std::unique_ptr<Ui::BakimSekmesi> m_ui;
 };
+
+} // namespace kuyum

@@ -20,6 +20,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 /// What a user must type to reach the commands.
@@ -328,3 +330,5 @@ void Dosya_Yenile::tell(const QString &text, const QString &table)
     m_ui->durum->showMessage(text);
     m_table->setText(table);
 }
+
+} // namespace kuyum

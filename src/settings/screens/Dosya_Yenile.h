@@ -7,12 +7,14 @@
 #include <memory>
 #include <QDialog>
 
-class DatabaseError;
 class QLabel;
-
 namespace Ui {
 class Dosya_Yenile;
 }
+
+namespace kuyum {
+
+class DatabaseError;
 
 /// Asks for a file, beginning at a place; empty when none was chosen.
 using FileChooser = std::function<QString(QWidget *parent, const QString &start)>;
@@ -55,3 +57,5 @@ private:
     FileChooser m_chooseTarget;
     QString m_source; ///< the chosen file; empty before
 };
+
+} // namespace kuyum

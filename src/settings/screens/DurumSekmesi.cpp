@@ -9,6 +9,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 DurumSekmesi::DurumSekmesi(const ScreenContext &context, QWidget *parent)
     : QWidget(parent), m_context(context), m_ui(std::make_unique<Ui::DurumSekmesi>())
 {
@@ -118,3 +120,5 @@ void DurumSekmesi::sil(DurumTuru tur)
     fill(tur);
     liste(tur)->setCurrentRow(qMin(row, liste(tur)->count() - 1));
 }
+
+} // namespace kuyum

@@ -7,10 +7,11 @@
 #include <QWidget>
 
 class QListWidget;
-
 namespace Ui {
 class DurumSekmesi;
 }
+
+namespace kuyum {
 
 /// The tab of the two lists of status codes. A code is stored when it is typed.
 class DurumSekmesi : public QWidget
@@ -40,3 +41,5 @@ private:
     ScreenContext m_context;
     std::unique_ptr<Ui::DurumSekmesi> m_ui;
 };
+
+} // namespace kuyum

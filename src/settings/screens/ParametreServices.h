@@ -6,8 +6,11 @@
 #include <memory>
 #include <QString>
 
-class Printers;
 class QWidget;
+
+namespace kuyum {
+
+class Printers;
 
 /// Opens a company's database for work, a legacy file by taking it over first.
 /// Throws DatabaseError; nothing was changed then.
@@ -20,3 +23,5 @@ struct ParametreServices
     CompanyOpener openCompany;
     const Printers &printers;
 };
+
+} // namespace kuyum

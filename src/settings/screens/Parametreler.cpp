@@ -15,6 +15,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 Parametreler::Parametreler(const ScreenContext &context, const ParametreServices &services,
                            QWidget *parent)
     : QDialog(parent, Qt::Window),
@@ -168,3 +170,5 @@ void Parametreler::reject()
             QDialog::reject();
     });
 }
+
+} // namespace kuyum

@@ -6,14 +6,16 @@
 #include <memory>
 #include <QDialog>
 
+namespace Ui {
+class Parametreler;
+}
+
+namespace kuyum {
+
 class AyarSekmesi;
 class BakimSekmesi;
 class DurumSekmesi;
 class YedekSekmesi;
-
-namespace Ui {
-class Parametreler;
-}
 
 /// The settings of the company: its paths, printer and scale, the lists of
 /// status codes, and the care of its database, a tab each.
@@ -50,3 +52,5 @@ private:
     YedekSekmesi *m_yedek;
     BakimSekmesi *m_bakim;
 };
+
+} // namespace kuyum

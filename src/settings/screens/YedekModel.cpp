@@ -6,6 +6,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 namespace {
 
 enum Column { made, kind, size, file, columns };
@@ -60,3 +62,5 @@ QVariant YedekModel::headerData(int section, Qt::Orientation orientation, int ro
     const QStringList names = {u"Tarih"_s, u"Tür"_s, u"Boyut"_s, u"Dosya"_s};
     return names.value(section);
 }
+
+} // namespace kuyum

@@ -4,6 +4,8 @@
 
 #include <QAbstractTableModel>
 
+namespace kuyum {
+
 /// The backups of a database for a view, newest first.
 class YedekModel : public QAbstractTableModel
 {
@@ -24,3 +26,5 @@ public:
 private:
     QList<BackupFile> m_backups;
 };
+
+} // namespace kuyum

@@ -16,6 +16,8 @@
 
 using namespace Qt::StringLiterals;
 
+namespace kuyum {
+
 /// Said of a backup whose bytes cannot be compared with those that were written.
 static QString withoutDigest()
 {
@@ -206,3 +208,5 @@ bool YedekSekmesi::reopen(const QString &path)
     }
     return true;
 }
+
+} // namespace kuyum

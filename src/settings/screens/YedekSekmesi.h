@@ -7,11 +7,13 @@
 #include <optional>
 #include <QWidget>
 
-class YedekModel;
-
 namespace Ui {
 class YedekSekmesi;
 }
+
+namespace kuyum {
+
+class YedekModel;
 
 /// The tab of the database's backups: makes one, checks one, and puts one in
 /// the database's place.
@@ -51,3 +53,5 @@ private:
     std::unique_ptr<Ui::YedekSekmesi> m_ui;
     YedekModel *m_model;
 };
+
+} // namespace kuyum
