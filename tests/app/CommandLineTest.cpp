@@ -470,6 +470,9 @@ private Q_SLOTS:
                           {u"sorgu"_s, name, u"Select Count(*) As N From Firma"_s});
             QVERIFY(program.waitForFinished());
             QCOMPARE(program.readAllStandardOutput(), "\"N\"\n2\n");
+            program.start(qEnvironmentVariable("KUYUM_PROGRAM"), {u"yedekle"_s, name});
+            QVERIFY(program.waitForFinished());
+            QCOMPARE(program.exitCode(), 0);
         }
     }
 
