@@ -23,7 +23,7 @@ int aktarCommand(const QStringList &arguments)
 {
     if (arguments.size() != 2)
         throw WrongUsage();
-    TakeOver takeOver(writtenPath(arguments[0]), arguments[1]);
+    TakeOver takeOver(writtenPath(arguments[0]), writtenPath(arguments[1]));
     QObject::connect(&takeOver, &TakeOver::tableCopied, &takeOver,
                      [](const QString &name, qint64 rows) {
                          printLine(u"%1: %2 kayıt"_s.arg(name, QString::number(rows)));

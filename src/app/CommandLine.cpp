@@ -43,8 +43,9 @@ constexpr Command commands[] = {
      "[--resimli [--resim KLASOR]] [--sipdur DURUM] [--uretdur DURUM]",
      uretimCommand, true},
     {u"sorgu",
-     u"kuyum sorgu VERITABANI \"SELECT ...\"   (CSV hamdır: = + - @ ile başlayan metin olduğu "
-     "gibi yazılır; hesap tablosuna aktarırken metin olarak alın)",
+     u"kuyum sorgu VERITABANI \"SELECT ...\"\n"
+     "    (CSV hamdır: = + - @ ile başlayan metin olduğu gibi yazılır; hesap tablosuna aktarırken "
+     "metin olarak alın)",
      sorguCommand},
     {u"yedekle", u"kuyum yedekle VERITABANI", yedekleCommand},
     {u"geriyukle", u"kuyum geriyukle VERITABANI YEDEK [--ozetsiz]", geriyukleCommand},

@@ -47,7 +47,12 @@ bool belongsToDatabase(const QString &path)
 
 QString writtenPath(const QString &path)
 {
-    return path.startsWith(u':') ? u"./"_s + path : path;
+    return path.startsWith(u':') ? QDir::currentPath() + u'/' + path : path;
+}
+
+QString inFolder(const QString &folder, const QString &name)
+{
+    return folder.endsWith(u'/') ? folder + name : folder + u'/' + name;
 }
 
 QString resolvedPlace(const QString &path)
@@ -57,7 +62,7 @@ QString resolvedPlace(const QString &path)
     for (int i = 0; i < mostLinks && place.isSymLink(); ++i)
         place.setFile(place.symLinkTarget());
     const QString folder = QFileInfo(place.absolutePath()).canonicalFilePath();
-    return folder.isEmpty() ? place.absoluteFilePath() : QDir(folder).filePath(place.fileName());
+    return folder.isEmpty() ? place.absoluteFilePath() : inFolder(folder, place.fileName());
 }
 
 bool holdsDatabase(const QString &path)

@@ -11,6 +11,9 @@ namespace kuyum {
 /// place within the program itself.
 QString writtenPath(const QString &path);
 
+/// The file of that name in the folder, also where the name begins with ":".
+QString inFolder(const QString &folder, const QString &name);
+
 /// The file that the path leads to: every link on the way is followed, also one
 /// to a file that is not there yet.
 QString resolvedPlace(const QString &path);

@@ -1,6 +1,7 @@
 #include "WindowSize.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QLayout>
 #include <QMainWindow>
 #include <QScreen>
@@ -84,6 +85,14 @@ QPoint centreFor(const QWidget &window, const QRect &available)
                                                   : available.center();
 }
 
+/// The library opens its file dialog larger than a small screen.
+void fitLibrarysDialog(QFileDialog &dialog)
+{
+    const QRect available = dialog.screen()->availableGeometry().marginsRemoved(frameOf(dialog));
+    dialog.resize(dialog.size().boundedTo(available.size()));
+    dialog.setGeometry(wholeOn(available, dialog.geometry()));
+}
+
 class WindowPlaces : public QObject
 {
 public:
@@ -92,6 +101,8 @@ public:
     bool eventFilter(QObject *watched, QEvent *event) override
     {
         const bool shows = event->type() == QEvent::Show;
+        if (auto *dialog = qobject_cast<QFileDialog *>(watched); dialog != nullptr && shows)
+            fitLibrarysDialog(*dialog);
         if ((!shows && event->type() != QEvent::Hide) || event->spontaneous() || !isOwn(watched))
             return false;
         auto &window = *static_cast<QWidget *>(watched);

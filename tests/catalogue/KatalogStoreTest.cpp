@@ -83,18 +83,6 @@ private Q_SLOTS:
         QCOMPARE(stored(), QStringList());
     }
 
-    void aFailedSaveKeepsTheOldRows()
-    {
-        const QStringList before = stored();
-        m_oturum.Veritabani->engine().run(
-            u"CREATE TRIGGER full BEFORE INSERT ON Katalog WHEN NEW.katno1 = 5 "
-            "BEGIN SELECT RAISE(ABORT, 'disk'); END"_s);
-        Katalog katalog = m_store.KatalogBul(u"Bahar"_s);
-        katalog.satirlar.append({u"boş"_s, 1, {}, 5, {}});
-        QVERIFY_THROWS_EXCEPTION(DatabaseError, m_store.save(katalog, m_unread));
-        QCOMPARE(stored(), before);
-    }
-
     void anOrderOfTheUsersOwnIsKept()
     {
         Katalog katalog = m_store.KatalogBul(u"Bahar"_s);

@@ -1,7 +1,6 @@
 #include "ModelStore.h"
 #include "Oturum.h"
 #include "SampleCompany.h"
-#include "SqliteEngine.h"
 #include "SqlText.h"
 #include "TestRegistry.h"
 
@@ -28,7 +27,6 @@ private Q_SLOTS:
     void findsAModelOfItsType();
     void savesTheRowsThatCount();
     void replacesAFoundModelWholly();
-    void aFailedWriteKeepsTheOldRows();
     void keepsTheCodesOfEverySpelling();
 
 private:
@@ -131,24 +129,6 @@ void ModelStoreTest::replacesAFoundModelWholly()
     QCOMPARE(oldLabels().mid(3), QStringList({u"6-6 A75 1"_s, u"7-7 İnci-1 3"_s, u"9-9 A75 1"_s}));
     m_store->save(ring, m_unread);
     QCOMPARE(oldLabels().last(), u"9-10 A75 1"_s);
-}
-
-void ModelStoreTest::aFailedWriteKeepsTheOldRows()
-{
-    const QStringList before = rows(u"A75"_s, 1);
-    Model ring = *m_store->ModelBul(u"A75"_s, 1);
-    const Model asked = ring;
-    // The second row meets the end of the disk.
-    m_oturum->Veritabani->engine().run(u"CREATE TRIGGER full BEFORE INSERT ON Model WHEN NEW.M_Tip "
-                                       "= 1 BEGIN SELECT RAISE(ABORT, 'disk dolu'); END"_s);
-    QVERIFY_THROWS_EXCEPTION(DatabaseError, m_store->save(ring, m_unread));
-    QCOMPARE(rows(u"A75"_s, 1), before);
-    QCOMPARE(oldLabels(), QStringList());
-    QCOMPARE(ring, asked);
-
-    m_oturum->Veritabani->engine().run(u"DROP TRIGGER full"_s);
-    m_store->save(ring, m_unread);
-    QCOMPARE(rows(u"A75"_s, 1), before);
 }
 
 void ModelStoreTest::keepsTheCodesOfEverySpelling()

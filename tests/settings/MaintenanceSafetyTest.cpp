@@ -32,28 +32,13 @@ private Q_SLOTS:
     void fullDiskUnderANewDatabase();
 
 private:
-    struct State
-    {
-        QMap<QString, QList<QStringList>> rows;
-        QString definitions;
-        bool operator==(const State &) const = default;
-    };
-
     static void operations()
     {
         QTest::addColumn<bool>("refreshes");
         QTest::newRow("repair") << false;
         QTest::newRow("refresh") << true;
     }
-    static State stateOf(const QString &path)
-    {
-        const std::unique_ptr<Database> db = openCompany(path);
-        QSqlQuery check = db->engine().run(u"PRAGMA integrity_check"_s);
-        db->engine().next(check);
-        if (check.value(0).toString() != "ok"_L1)
-            throw DatabaseError(check.value(0).toString());
-        return {storedTables(*db), definitions(*db)};
-    }
+    static FileState stateOf(const QString &path) { return fileState(*openCompany(path)); }
     static void work(Oturum &oturum, bool refreshes)
     {
         if (refreshes)
@@ -74,7 +59,7 @@ private:
     }
 
     QTemporaryDir m_dir;
-    State m_before;
+    FileState m_before;
 };
 
 /// Some thousand rows with nulls, so that there is a middle.
@@ -105,14 +90,14 @@ void MaintenanceSafetyTest::killed()
         arguments.append(path(u"secilen.kuyum"_s));
     fresh();
     const qint64 time = workingTime(QStringLiteral(MAINTENANCE_RUN), arguments);
-    const State after = stateOf(path(u"atolye.kuyum"_s));
+    const FileState after = stateOf(path(u"atolye.kuyum"_s));
     QVERIFY(!(after == m_before));
     int unfinished = 0;
     for (int kill = 0; kill < killCount(); ++kill) {
         const QString company = fresh();
         const QList<QByteArray> told =
             killedWhileWorking(QStringLiteral(MAINTENANCE_RUN), arguments, time);
-        const State state = stateOf(company);
+        const FileState state = stateOf(company);
         QVERIFY2(!told.contains("failed"), "it did not get to be killed");
         QVERIFY(state == after || (state == m_before && !told.contains("done")));
         unfinished += told.contains("done") ? 0 : 1;
@@ -148,7 +133,7 @@ void MaintenanceSafetyTest::fullDisk()
             QVERIFY(disk.wasFull());
             disk.empty();
             // The same connection goes on working.
-            QCOMPARE(storedTables(*oturum.Veritabani), m_before.rows);
+            QCOMPARE(fileState(*oturum.Veritabani), m_before);
             oturum.Veritabani->execute(u"UPDATE Ayar SET Milyem = Milyem"_s);
         }
         QVERIFY2(told.contains(u"Diskte yer kalmadı"_s) || refreshes, qPrintable(told));
@@ -170,7 +155,7 @@ void MaintenanceSafetyTest::fullDiskUnderANewDatabase()
     QVERIFY(old.seek(0));
     QCOMPARE(old.readAll(), QByteArray("eski"));
     QVERIFY(!QFileInfo::exists(target + u".yapim"_s));
-    QCOMPARE(storedTables(*oturum.Veritabani), m_before.rows);
+    QCOMPARE(fileState(*oturum.Veritabani), m_before);
 }
 
 KUYUM_TEST(MaintenanceSafetyTest)

@@ -3,6 +3,7 @@
 #include "DatabaseError.h"
 #include "FileDigest.h"
 #include "Numbers.h"
+#include "OutputPlace.h"
 #include "ProcessLock.h"
 
 #include <algorithm>
@@ -140,7 +141,7 @@ bool hasDigest(const QString &backup)
 BackupPlace::BackupPlace(const QString &database)
     : m_database(database),
       m_folder(backupFolder(database)),
-      m_lock(QDir(m_folder).filePath(baseName(database) + u".kilit"_s))
+      m_lock(inFolder(m_folder, baseName(database) + u".kilit"_s))
 {
     if (!QDir().mkpath(m_folder)) {
         throw DatabaseError(u"Yedek klasörü açılamadı (yazma izni ya da diskte yer yok): "_s +
@@ -185,8 +186,8 @@ QString BackupPlace::freePath(const QString &word) const
     }
     const QString stem = u"%1-%2-%3"_s.arg(baseName(m_database), moment, word);
     const auto path = [&] {
-        return QDir(m_folder).filePath(number > 1 ? stem + u'-' + QString::number(number) + ending
-                                                  : stem + ending);
+        return inFolder(m_folder, number > 1 ? stem + u'-' + QString::number(number) + ending
+                                             : stem + ending);
     };
     while (QFileInfo::exists(path()))
         ++number;

@@ -157,6 +157,8 @@ QString restoreBackup(const QString &database, const QString &backup, const Work
 {
     const WorkStage stage(progress, 0, 1000);
     requireReplaceable(database);
+    if (QFileInfo(resolvedPlace(database)) == QFileInfo(resolvedPlace(backup)))
+        throw DatabaseError(u"Yedek, yerine konacağı dosyanın kendisi."_s);
     const BackupPlace place(database);
     const CompanyLock alone(database, CompanyLock::Kind::Alone);
     // A link to a company stays one: the file that it leads to is replaced.

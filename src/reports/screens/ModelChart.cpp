@@ -164,7 +164,10 @@ QChart *makeChart(const ReportTable &table, const ChartLook &look)
     const QPalette &palette = look.palette;
     auto *chart = new QChart;
     chart->setAnimationOptions(QChart::NoAnimation);
-    chart->setLocale(QLocale(QLocale::Turkish, QLocale::Turkey));
+    QLocale numbers(QLocale::Turkish, QLocale::Turkey);
+    // Elsewhere a point parts decimals: 1.000 would read as one.
+    numbers.setNumberOptions(QLocale::OmitGroupSeparator);
+    chart->setLocale(numbers);
     chart->setLocalizeNumbers(true);
     chart->setBackgroundBrush(palette.base());
     chart->setBackgroundRoundness(0);

@@ -2,6 +2,7 @@
 
 #include "Database.h"
 #include "Dialect.h"
+#include "Integrity.h"
 #include "SqliteEngine.h"
 
 #include <QMap>
@@ -45,6 +46,22 @@ inline QString definitions(const Database &db)
         "SELECT group_concat(sql, '\n') FROM (SELECT sql FROM sqlite_master ORDER BY name)"));
     db.engine().next(query);
     return query.value(0).toString();
+}
+
+/// All that a file holds: the rows of its tables, how many rows the bookkeeping
+/// ones have, and the definitions. Throws when the file is damaged.
+using FileState = QMap<QString, QList<QStringList>>;
+inline FileState fileState(const Database &db)
+{
+    const QStringList faults = integrityFaults(db.engine());
+    if (!faults.isEmpty())
+        throw DatabaseError(faults.join(u'\n'));
+    FileState state = storedTables(db);
+    const QMap<QString, qint64> counts = rowCounts(db.engine());
+    for (auto count = counts.cbegin(); count != counts.cend(); ++count)
+        state[count.key()].append({QString::number(count.value())});
+    state[QStringLiteral("definitions")].append({definitions(db)});
+    return state;
 }
 
 } // namespace kuyum
