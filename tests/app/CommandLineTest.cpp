@@ -404,7 +404,7 @@ private Q_SLOTS:
         const QString notes = m_folder.filePath(u"notlar.txt"_s);
         writeFile(notes, "not");
         QCOMPARE(kuyum({u"geriyukle"_s, notes, backup}).exitCode, 1);
-        QCOMPARE(::fileBytes(notes), "not");
+        QCOMPARE(kuyum::fileBytes(notes), "not");
         const Outcome restored = kuyum({u"geriyukle"_s, link, backup});
         QVERIFY(QFileInfo(link).isSymLink());
         QCOMPARE(restored.error, QString());
@@ -440,7 +440,7 @@ private Q_SLOTS:
             }
         }
         QCOMPARE(fileBytes(), before);
-        QCOMPARE(::fileBytes(report), before);
+        QCOMPARE(kuyum::fileBytes(report), before);
         QVERIFY(!QFile::exists(journal) && !QFile::exists(m_folder.filePath(u"yeni.MDB"_s)));
         QVERIFY(QFile::remove(report) && QFile::remove(link));
     }
